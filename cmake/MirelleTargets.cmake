@@ -1,0 +1,43 @@
+# How every target of the tree is made: C++20, the same warnings, includes from the top folder.
+
+set(MIRELLE_ROOT ${CMAKE_CURRENT_SOURCE_DIR})
+
+function(mirelle_settings target)
+    target_compile_features(${target} PUBLIC cxx_std_20)
+    set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
+    target_include_directories(${target} PUBLIC ${MIRELLE_ROOT})
+    if(MSVC)
+        target_compile_options(${target} PRIVATE /W4 /WX /utf-8 /permissive-)
+    else()
+        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
+            -Woverloaded-virtual -Wcast-align -Wnull-dereference -Wextra-semi -Werror)
+    endif()
+    if(MIRELLE_SANITIZE)
+        target_compile_options(${target} PUBLIC -fsanitize=${MIRELLE_SANITIZE} -fno-sanitize-recover=all
+            -fno-omit-frame-pointer)
+        target_link_options(${target} PUBLIC -fsanitize=${MIRELLE_SANITIZE})
+    endif()
+endfunction()
+
+# mirelle_library(NAME sources... LINK targets...): a static library of one room.
+function(mirelle_library target)
+    cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+    add_library(${target} STATIC ${ARG_UNPARSED_ARGUMENTS})
+    mirelle_settings(${target})
+    target_link_libraries(${target} PUBLIC ${ARG_LINK})
+endfunction()
+
+# mirelle_program(NAME sources... LINK targets...): an executable.
+function(mirelle_program target)
+    cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+    add_executable(${target} ${ARG_UNPARSED_ARGUMENTS})
+    mirelle_settings(${target})
+    target_link_libraries(${target} PRIVATE ${ARG_LINK})
+endfunction()
+
+# mirelle_test(NAME sources... LINK targets...): a Google Test program, each of its tests known to CTest.
+function(mirelle_test target)
+    mirelle_program(${target} ${ARGN})
+    target_link_libraries(${target} PRIVATE GTest::gmock_main)
+    gtest_discover_tests(${target} PROPERTIES TIMEOUT 120)
+endfunction()

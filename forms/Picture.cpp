@@ -1,0 +1,32 @@
+#include "forms/Picture.h"
+
+#include "forms/RunTimeError.h"
+
+#include <new>
+#include <stdexcept>
+
+namespace mirelle {
+namespace {
+
+std::vector<Pixel> MakePixels(int width, int height, Pixel fill) {
+    if (width < 0 || height < 0) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+    try {
+        return std::vector<Pixel>(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), fill);
+    } catch (const std::bad_alloc&) {
+        throw RunTimeError(ErrorNumber::OutOfMemory);
+    } catch (const std::length_error&) {
+        throw RunTimeError(ErrorNumber::OutOfMemory);
+    }
+}
+
+} // namespace
+
+Bitmap::Bitmap(int width, int height, Pixel fill)
+    : width_(width), height_(height), pixels_(MakePixels(width, height, fill)) {}
+
+const Bitmap& Picture::Pixels() const {
+    static const Bitmap kNoPixels;
+    return bitmap_ ? *bitmap_ : kNoPixels;
+}
+
+} // namespace mirelle
