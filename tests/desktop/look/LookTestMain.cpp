@@ -1,0 +1,10 @@
+// The tests of the look need an application with fonts and a style, but no display.
+#include <gmock/gmock.h>
+#include <QApplication>
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    testing::InitGoogleMock(&argc, argv);
+    const QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
