@@ -6,6 +6,7 @@
 #include "forms/ports/Dialogs.h"
 #include "forms/ports/FileSystem.h"
 #include "forms/ports/Pictures.h"
+#include "forms/ports/Process.h"
 #include "forms/ports/Screen.h"
 #include "forms/ports/Shell.h"
 #include "forms/ports/Time.h"
@@ -23,6 +24,7 @@ struct Ports {
     ConsoleShell& console;
     SystemViewer& viewer;
     Screen& screen;
+    Process& process;
 };
 
 } // namespace mirelle

@@ -13,6 +13,8 @@ public:
     virtual ~Screen() = default;
 
     virtual ScreenSize Size() const = 0;
+    // The client area that a maximised window gets.
+    virtual ScreenSize MaximisedClientSize() const = 0;
     // SetWindowPos with HWND_TOPMOST or HWND_NOTOPMOST, without moving or sizing. Returns whether it was
     // done.
     virtual bool SetTopMost(bool topmost) = 0;

@@ -1,0 +1,8 @@
+#include "app/Sampler.h"
+
+namespace mirelle {
+
+Sampler::Sampler(Ports ports)
+    : form(ports), canvas_(form), library_(form), bridge_(form), imageFX_(form), gradients_(form) {}
+
+} // namespace mirelle

@@ -1,0 +1,7 @@
+#include "bridge/Bridge.h"
+
+namespace mirelle {
+
+Bridge::Bridge(FrmPicX&) {}
+
+} // namespace mirelle

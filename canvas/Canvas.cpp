@@ -1,0 +1,7 @@
+#include "canvas/Canvas.h"
+
+namespace mirelle {
+
+Canvas::Canvas(FrmPicX&) {}
+
+} // namespace mirelle

@@ -1,0 +1,187 @@
+#include "forms/FileLists.h"
+
+#include "forms/Form.h"
+#include "forms/RunTimeError.h"
+#include "forms/Text.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace mirelle {
+namespace {
+
+// Sorts names without regard to case; equal ones by their bytes, so that the order is always the same.
+void SortNames(std::vector<std::string>& names) {
+    std::vector<std::pair<std::string, std::string>> keyed;
+    keyed.reserve(names.size());
+    for (std::string& name : names)
+        keyed.emplace_back(LowerCase(name), std::move(name));
+    std::ranges::sort(keyed);
+    std::ranges::transform(keyed, names.begin(), [](auto& entry) { return std::move(entry.second); });
+}
+
+// Matching by the usual walk with one point to come back to: the last star seen.
+bool MatchesOne(std::string_view name, std::string_view pattern) {
+    std::size_t n = 0;
+    std::size_t p = 0;
+    std::size_t star = std::string_view::npos;
+    std::size_t resume = 0;
+    const auto skipCharacter = [&name](std::size_t at) {
+        ++at;
+        while (at < name.size() && (static_cast<unsigned char>(name[at]) & 0xC0) == 0x80)
+            ++at;
+        return at;
+    };
+    while (n < name.size()) {
+        if (p < pattern.size() && pattern[p] == '*') {
+            star = p++;
+            resume = n;
+        } else if (p < pattern.size() && pattern[p] == '?') {
+            ++p;
+            n = skipCharacter(n);
+        } else if (p < pattern.size() && pattern[p] == name[n]) {
+            ++p;
+            ++n;
+        } else if (star != std::string_view::npos) {
+            p = star + 1;
+            n = ++resume;
+        } else {
+            return false;
+        }
+    }
+    return pattern.find_first_not_of('*', p) == std::string_view::npos;
+}
+
+std::vector<std::string> PatternsOf(std::string_view patterns) {
+    std::vector<std::string> pieces = Split(LowerCase(patterns), ";");
+    std::ranges::transform(pieces, pieces.begin(), [](const std::string& piece) { return Trim(piece); });
+    return pieces;
+}
+
+bool MatchesAny(std::string_view lowerName, const std::vector<std::string>& patterns) {
+    return std::ranges::any_of(patterns, [lowerName](const std::string& pattern) {
+        return pattern == "*.*" || MatchesOne(lowerName, pattern);
+    });
+}
+
+} // namespace
+
+bool MatchesPattern(std::string_view name, std::string_view patterns) {
+    return MatchesAny(LowerCase(name), PatternsOf(patterns));
+}
+
+DriveListBox::DriveListBox(Form& form, std::string name, FileSystem& files)
+    : Control(form, std::move(name)), files_(files) {
+    const std::vector<std::string> drives = files_.Drives();
+    if (!drives.empty()) Drive.SetQuietly(drives.front());
+    Drive.OnChange([this] { Change(); });
+}
+
+DirListBox::DirListBox(Form& form, std::string name, FileSystem& files)
+    : ListControl(form, std::move(name)), files_(files) {
+    path_ = files_.AppPath();
+    ResumeNext([this] { Refresh(); });
+}
+
+void DirListBox::SetPath(const std::string& path) {
+    std::string resolved = files_.ResolveFolder(path);
+    if (resolved == path_) return;
+    path_ = std::move(resolved);
+    ResumeNext([this] { Refresh(); });
+    Change();
+}
+
+void DirListBox::Refresh() {
+    rows_.clear();
+    current_ = kNoRow;
+    TellWatchers();
+    std::vector<std::string> names = files_.FolderNames(path_);
+    SortNames(names);
+    const bool atRoot = !path_.empty() && path_.back() == files_.Separator();
+    const std::string base = atRoot ? path_ : path_ + files_.Separator();
+    for (const std::string& name : names)
+        rows_.push_back(base + name);
+    TellWatchers();
+}
+
+FileListBox::FileListBox(Form& form, std::string name, FileSystem& files)
+    : Control(form, std::move(name)), files_(files) {
+    path_ = files_.AppPath();
+    ReadNames();
+}
+
+void FileListBox::SetPath(const std::string& path) {
+    std::string resolved = files_.ResolveFolder(path);
+    if (resolved == path_) return;
+    path_ = std::move(resolved);
+    ReadNames();
+}
+
+void FileListBox::SetPattern(const std::string& pattern) {
+    if (pattern == pattern_) return;
+    pattern_ = pattern;
+    ReadNames();
+}
+
+std::string FileListBox::List(int row) const {
+    return row >= 0 && row < ListCount() ? names_[static_cast<std::size_t>(row)] : std::string();
+}
+
+void FileListBox::SetListIndex(int row) {
+    if (row < kNoRow || row >= ListCount()) throw RunTimeError(ErrorNumber::InvalidPropertyValue);
+    Select(row);
+}
+
+void FileListBox::Refresh() {
+    ReadNames();
+}
+
+void FileListBox::UserClick() {
+    if (Enabled && current_ != kNoRow) RunClick();
+}
+
+void FileListBox::ReadNames() {
+    current_ = kNoRow;
+    names_.clear();
+    // A folder that went away or can't be read lists nothing.
+    ResumeNext([this] { names_ = files_.FileNames(path_); });
+    const std::vector<std::string> patterns = PatternsOf(pattern_);
+    std::erase_if(names_,
+                  [&patterns](const std::string& name) { return !MatchesAny(LowerCase(name), patterns); });
+    SortNames(names_);
+    TellWatchers();
+}
+
+void FileListBox::Select(int row) {
+    current_ = row;
+    TellWatchers();
+    if (row != kNoRow && row != clicking_) RunClick();
+}
+
+void FileListBox::RunClick() {
+    const int before = std::exchange(clicking_, current_);
+    try {
+        Click();
+    } catch (...) {
+        clicking_ = before;
+        throw;
+    }
+    clicking_ = before;
+}
+
+FileListBox::Selection::operator bool() const {
+    return box_.current_ == row_ && row_ != kNoRow;
+}
+
+const FileListBox::Selection& FileListBox::Selection::operator=(bool selected) const {
+    if (row_ < 0 || row_ >= box_.ListCount()) throw RunTimeError(ErrorNumber::InvalidPropertyArrayIndex);
+    if (selected) {
+        box_.Select(row_);
+    } else if (box_.current_ == row_) {
+        box_.current_ = kNoRow;
+        box_.TellWatchers();
+    }
+    return *this;
+}
+
+} // namespace mirelle

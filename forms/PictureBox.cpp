@@ -1,0 +1,72 @@
+#include "forms/PictureBox.h"
+
+#include "forms/Numbers.h"
+
+namespace mirelle {
+
+int PixelsOf(float measure, ScaleUnit unit) {
+    return ToLong(unit == ScaleUnit::Twips ? double{measure} / kTwipsPerPixel : double{measure});
+}
+
+float MeasureOf(int pixels, ScaleUnit unit) {
+    return unit == ScaleUnit::Twips ? static_cast<float>(pixels) * kTwipsPerPixel
+                                    : static_cast<float>(pixels);
+}
+
+PictureBox::PictureBox(Form& form, std::string name, Units units)
+    : Control(form, std::move(name)), AutoSize(*this, units.autoSize), units_(units) {
+    Width.OnChange([this] { FollowSize(); });
+    Height.OnChange([this] { FollowSize(); });
+    BackColor.OnChange([this] { surface_.SetBackground(BackColor); });
+    AutoSize.OnChange([this] { TakePictureSize(); });
+    surface_.SetBackground(BackColor);
+}
+
+void PictureBox::AssignPicture(mirelle::Picture picture) {
+    surface_.Assign(std::move(picture));
+    TakePictureSize();
+    TellWatchers();
+    Change();
+}
+
+void PictureBox::TakePictureSize() {
+    const mirelle::Picture& picture = surface_.Assigned();
+    if (!AutoSize || picture.IsEmpty()) return;
+    Width = MeasureOf(picture.Width(), units_.outer);
+    Height = MeasureOf(picture.Height(), units_.outer);
+}
+
+void PictureBox::FollowSize() {
+    surface_.Resize(PixelsOf(Width, units_.outer), PixelsOf(Height, units_.outer));
+}
+
+Color PictureBox::Point(float x, float y) const {
+    return surface_.Point(PixelsOf(x, units_.inner), PixelsOf(y, units_.inner));
+}
+
+void PictureBox::Cls() {
+    surface_.Clear();
+    TellWatchers();
+}
+
+void PictureBox::PaintPicture(const mirelle::Picture& source, float left, float top, float width,
+                              float height, float sourceLeft, float sourceTop) {
+    const PixelRect from{PixelsOf(sourceLeft, units_.inner), PixelsOf(sourceTop, units_.inner),
+                         PixelsOf(width, units_.inner), PixelsOf(height, units_.inner)};
+    surface_.Copy(source.Pixels(), from, PixelsOf(left, units_.inner), PixelsOf(top, units_.inner));
+    TellWatchers();
+}
+
+Bitmap& PictureBox::Paint() {
+    TellWatchers();
+    return surface_.Paint();
+}
+
+ImageControl::ImageControl(Form& form, std::string name) : Control(form, std::move(name)) {}
+
+void ImageControl::AssignPicture(mirelle::Picture picture) {
+    picture_ = std::move(picture);
+    TellWatchers();
+}
+
+} // namespace mirelle

@@ -1,0 +1,92 @@
+#include "forms/Surface.h"
+
+#include <algorithm>
+
+namespace mirelle {
+namespace {
+
+void CopyRect(const Bitmap& source, PixelRect from, Bitmap& target, int left, int top) {
+    const int skipX = std::max({0, -from.left, -left});
+    const int skipY = std::max({0, -from.top, -top});
+    const int width = std::min({from.width, source.Width() - from.left, target.Width() - left}) - skipX;
+    const int height = std::min({from.height, source.Height() - from.top, target.Height() - top}) - skipY;
+    if (width <= 0) return;
+    for (int y = 0; y < height; ++y) {
+        const auto row =
+            source.Row(from.top + skipY + y)
+                .subspan(static_cast<std::size_t>(from.left + skipX), static_cast<std::size_t>(width));
+        std::ranges::copy(row, target.Row(top + skipY + y).begin() + left + skipX);
+    }
+}
+
+PixelRect WholeOf(const Bitmap& bitmap) {
+    return {0, 0, bitmap.Width(), bitmap.Height()};
+}
+
+} // namespace
+
+void Surface::Resize(int width, int height) {
+    width = std::max(width, 0);
+    height = std::max(height, 0);
+    if (width == width_ && height == height_) return;
+    const std::shared_ptr<Bitmap> before = std::move(image_);
+    image_ = nullptr;
+    width_ = width;
+    height_ = height;
+    if (!before) return;
+    auto resized = std::make_shared<Bitmap>(width, height, PixelOf(background_));
+    CopyRect(*before, WholeOf(*before), *resized, 0, 0);
+    image_ = std::move(resized);
+}
+
+void Surface::Assign(Picture picture) {
+    picture_ = std::move(picture);
+    image_ = nullptr;
+}
+
+void Surface::SetBackground(Color background) {
+    background_ = background;
+    image_ = nullptr;
+}
+
+void Surface::Clear() {
+    image_ = nullptr;
+}
+
+Picture Surface::Image() const {
+    if (!image_ && picture_.Width() == width_ && picture_.Height() == height_ && !picture_.IsEmpty())
+        return picture_;
+    if (!image_) image_ = Compose();
+    return Picture(std::shared_ptr<const Bitmap>(image_));
+}
+
+Bitmap& Surface::Paint() {
+    if (!image_) {
+        image_ = Compose();
+    } else if (image_.use_count() > 1) {
+        image_ = std::make_shared<Bitmap>(*image_);
+    }
+    return *image_;
+}
+
+Color Surface::Point(int x, int y) const {
+    if (x < 0 || y < 0 || x >= width_ || y >= height_) return kOffPicture;
+    if (image_) return ColorOf(image_->At(x, y));
+    const Bitmap& assigned = picture_.Pixels();
+    return assigned.Contains(x, y) ? ColorOf(assigned.At(x, y)) : background_;
+}
+
+void Surface::Copy(const Bitmap& source, PixelRect from, int left, int top) {
+    if (from.IsEmpty()) return;
+    // The source may be this surface's own image: Paint then takes the copy.
+    CopyRect(source, from, Paint(), left, top);
+}
+
+std::shared_ptr<Bitmap> Surface::Compose() const {
+    auto composed = std::make_shared<Bitmap>(width_, height_, PixelOf(background_));
+    const Bitmap& assigned = picture_.Pixels();
+    CopyRect(assigned, WholeOf(assigned), *composed, 0, 0);
+    return composed;
+}
+
+} // namespace mirelle

@@ -1,0 +1,7 @@
+#include "fx/ImageFX.h"
+
+namespace mirelle {
+
+ImageFX::ImageFX(FrmPicX&) {}
+
+} // namespace mirelle

@@ -1,0 +1,7 @@
+#include "gradient/Gradients.h"
+
+namespace mirelle {
+
+Gradients::Gradients(FrmPicX&) {}
+
+} // namespace mirelle

@@ -1,0 +1,7 @@
+#include "library/Library.h"
+
+namespace mirelle {
+
+Library::Library(FrmPicX&) {}
+
+} // namespace mirelle
