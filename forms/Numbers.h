@@ -54,23 +54,54 @@ extern template class CheckedInteger<std::int32_t>;
 using Integer = CheckedInteger<std::int16_t>;
 using Long = CheckedInteger<std::int32_t>;
 
+// An Integer beside a Long is widened first, so that the step is checked as a Long.
+inline Long Widen(Integer value) {
+    return std::int32_t{value.Value()};
+}
+inline Long operator+(Long a, Integer b) {
+    return a + Widen(b);
+}
+inline Long operator+(Integer a, Long b) {
+    return Widen(a) + b;
+}
+inline Long operator-(Long a, Integer b) {
+    return a - Widen(b);
+}
+inline Long operator-(Integer a, Long b) {
+    return Widen(a) - b;
+}
+inline Long operator*(Long a, Integer b) {
+    return a * Widen(b);
+}
+inline Long operator*(Integer a, Long b) {
+    return Widen(a) * b;
+}
+inline Long operator/(Long a, Integer b) {
+    return a / Widen(b);
+}
+inline Long operator/(Integer a, Long b) {
+    return Widen(a) / b;
+}
+
 // The leading number of a text, 0 if there is none. Blanks, tabs and line feeds are skipped anywhere in it;
-// "&H" and
-// "&O" lead hexadecimal and octal numbers (four hexadecimal digits or fewer read as a signed 16-bit value, as
-// in a source text); an exponent is led by E or D. Never raises but for error 6 on a number beyond a double's
-// range.
+// an exponent is led by E or D. "&H" and "&O" lead hexadecimal and octal numbers, which read as in a source
+// text: a number that fits in 16 bits is a signed 16-bit value ("&HFFFF" is -1), a longer one, or one that
+// "&" ends, a signed 32-bit value. Raises error 6 on a number beyond the range (of a double, or of 32 bits),
+// and nothing else.
 double Val(std::string_view text);
 
-// Whether the whole text reads as a number: blanks around it, a sign, digits with commas between them, a
-// point, an exponent, a currency sign, parentheses as a minus, "&H" and "&O" forms.
+// Whether the whole text reads as a number within a double's range: blanks around it, digits with commas
+// among them, a point, an exponent, one "$", one sign ahead or behind or a pair of parentheses that stands
+// for a minus; or an "&H" or "&O" form.
 bool IsNumeric(std::string_view text);
 
-// The number that a text is converted to where a number is wanted ("12" + 1). Raises error 13 on any other
-// text.
+// The number that a text is converted to where a number is wanted ("12" + 1): what IsNumeric takes. Raises
+// error 6 on a number beyond the range, 13 on any other text.
 double TextToNumber(std::string_view text);
 
 // Default short text forms: 15 significant digits for a double, 7 for a Single; no needless zeros, "0.5" and
-// "-0.5" with their leading zero, exponent forms as in 1E+20 and 1.5E-07.
+// "-0.5" with their leading zero. The exponent form, as in 1E+20 and 1.5E-07, begins where those digits can't
+// hold the number plainly (from 1E+15, Single 1E+07, or with more decimals than digits), and below 0.00001.
 std::string CStr(double value);
 std::string CStr(float value);
 std::string CStr(std::int16_t value);

@@ -33,8 +33,10 @@ public:
     std::string Text() const;
     bool IsTrue() const { return Number() != 0; }
 
-    // The sum of two numbers. Whole numbers stay whole and widen from Integer to Long and on to Double where
-    // the sum needs it, Single with Single stays Single, any other mix is Double; two texts are joined.
+    // The sum of two values. Integers (and Booleans, which add as Integers) widen to Long and on to Double
+    // where the sum needs it; Single with Single or Integer stays Single while it fits, every other mix with
+    // a float or with a text is Double. Nothing adds as nothing: it leaves the other's kind. Two texts are
+    // joined. Raises error 13 for a text that is no number beside a number, 6 beyond a double's range.
     friend Variant operator+(const Variant& a, const Variant& b);
     friend bool operator==(const Variant&, const Variant&) = default;
 
