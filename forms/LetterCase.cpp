@@ -6,7 +6,8 @@ namespace mirelle {
 namespace {
 
 // The capitals from `first` to `last`, every `step`-th of them; the small letter lies `toSmall` further on.
-// From the simple case mappings of the Unicode Character Database (UnicodeData.txt, fields 12 and 13).
+// Ordered by `first`. From the simple case mappings of the Unicode Character Database (UnicodeData.txt,
+// fields 12 and 13).
 struct Range {
     char32_t first;
     char32_t last;
@@ -41,8 +42,9 @@ constexpr std::array kRanges = {
     Range{0x1EA0, 0x1EFE, 2, 1},    // Vietnamese
 };
 
-constexpr char32_t kFinalSigma = 0x03C2;
 constexpr char32_t kCapitalSigma = 0x03A3;
+constexpr char32_t kFinalSigma = 0x03C2;
+constexpr char32_t kSmallSigma = 0x03C3;
 
 constexpr char32_t Moved(char32_t code, int by) {
     return static_cast<char32_t>(static_cast<int>(code) + by);
@@ -56,6 +58,7 @@ constexpr bool Holds(const Range& range, char32_t capital) {
 
 char32_t SmallLetter(char32_t code) {
     for (const Range& range : kRanges) {
+        if (code < range.first) break;
         if (Holds(range, code)) return Moved(code, range.toSmall);
     }
     return code;
@@ -68,6 +71,10 @@ char32_t CapitalLetter(char32_t code) {
         if (Holds(range, capital)) return capital;
     }
     return code;
+}
+
+char32_t FoldedLetter(char32_t code) {
+    return code == kFinalSigma ? kSmallSigma : SmallLetter(code);
 }
 
 } // namespace mirelle

@@ -8,5 +8,7 @@ namespace mirelle {
 
 char32_t SmallLetter(char32_t code);
 char32_t CapitalLetter(char32_t code);
+// The small letter, both small sigmas as one: what a comparison without regard to case compares.
+char32_t FoldedLetter(char32_t code);
 
 } // namespace mirelle

@@ -24,11 +24,6 @@ std::string Mapped(std::string_view text, Mapping mapping) {
     return mapped;
 }
 
-// What CompareNoCase compares: the small letter of the capital, so that both small sigmas are one.
-char32_t Folded(char32_t code) {
-    return SmallLetter(CapitalLetter(code));
-}
-
 void RequireCount(int count) {
     if (count < 0) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
 }
@@ -108,8 +103,8 @@ std::string Before(std::string_view text, std::string_view mark) {
 
 int CompareNoCase(std::string_view a, std::string_view b) {
     while (!a.empty() && !b.empty()) {
-        const char32_t inA = Folded(TakeCharacter(a).code);
-        const char32_t inB = Folded(TakeCharacter(b).code);
+        const char32_t inA = FoldedLetter(TakeCharacter(a).code);
+        const char32_t inB = FoldedLetter(TakeCharacter(b).code);
         if (inA != inB) return inA < inB ? -1 : 1;
     }
     return a.empty() ? (b.empty() ? 0 : -1) : 1;

@@ -54,6 +54,7 @@ TEST(LetterCase, PairsEachCapitalWithOneSmallLetter) {
         const char32_t capital = CapitalLetter(code);
         ASSERT_EQ(SmallLetter(small), small);
         ASSERT_EQ(CapitalLetter(capital), capital);
+        ASSERT_EQ(FoldedLetter(code), SmallLetter(capital)) << "letters fold alike that have one capital";
         ASSERT_TRUE(small == code || capital == code) << "a letter is a capital or a small one";
         if (small != code) {
             ASSERT_EQ(CapitalLetter(small), code);
