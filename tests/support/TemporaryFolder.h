@@ -1,0 +1,57 @@
+// A folder of its own for a test, gone with everything in it when the test ends.
+#pragma once
+
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+namespace mirelle::test {
+
+class TemporaryFolder {
+public:
+    TemporaryFolder() {
+        std::string name = (std::filesystem::temp_directory_path() / "mirelle-test-XXXXXX").string();
+        if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no folder for the test");
+        path_ = std::filesystem::canonical(name).string();
+    }
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    const std::string& Path() const { return path_; }
+    // The machine's path of something in it.
+    std::string operator/(std::string_view name) const { return path_ + '/' + std::string(name); }
+
+    std::string MakeFolder(std::string_view name) const {
+        std::filesystem::create_directories(*this / name);
+        return *this / name;
+    }
+    std::string MakeFile(std::string_view name, std::string_view content = "x") const {
+        std::ofstream(*this / name, std::ios::binary) << content;
+        return *this / name;
+    }
+    std::string MakeFile(std::string_view name, std::span<const std::uint8_t> content) const {
+        return MakeFile(name,
+                        std::string_view(reinterpret_cast<const char*>(content.data()), content.size()));
+    }
+    std::string ContentOf(std::string_view name) const {
+        std::ifstream file(*this / name, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+private:
+    std::string path_;
+};
+
+} // namespace mirelle::test
