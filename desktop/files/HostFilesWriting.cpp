@@ -1,0 +1,118 @@
+// The two ways in which files are written: in the place of another, and over another's start.
+
+#include "desktop/files/Descriptor.h"
+#include "desktop/files/HostErrors.h"
+#include "desktop/files/HostFiles.h"
+#include "forms/RunTimeError.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <random>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace mirelle::host {
+namespace {
+
+constexpr mode_t kPrivateMode = S_IRUSR | S_IWUSR;
+constexpr mode_t kOrdinaryMode = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
+constexpr int kNameTries = 100;
+
+mode_t ModeOfNewFiles() {
+    const mode_t mask = ::umask(S_IRWXG | S_IRWXO);
+    ::umask(mask);
+    return kOrdinaryMode & ~mask;
+}
+
+// A file that goes again unless it is kept.
+class FileOnProbation {
+public:
+    explicit FileOnProbation(std::string path) : path_(std::move(path)) {}
+    ~FileOnProbation() {
+        if (!path_.empty()) ::unlink(path_.c_str());
+    }
+    FileOnProbation(const FileOnProbation&) = delete;
+    FileOnProbation& operator=(const FileOnProbation&) = delete;
+
+    const std::string& Path() const { return path_; }
+    void Keep() { path_.clear(); }
+
+private:
+    std::string path_;
+};
+
+// A new private file in the target's folder. Its name is short, so that there is room for it wherever the
+// target's own name has room, and begins with a point, so that no file list shows it.
+Descriptor OpenBeside(const std::string& target, std::string& path) {
+    const std::size_t separator = target.rfind('/');
+    const std::string folder = separator == std::string::npos ? "" : target.substr(0, separator + 1);
+    std::random_device random;
+    for (int attempt = 0; attempt < kNameTries; ++attempt) {
+        path = folder + ".new" + std::to_string(random());
+        Descriptor file{
+            ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, kPrivateMode)};
+        if (file.IsOpen()) return file;
+        if (errno != EEXIST) RaiseSystemError(errno, Action::Write, target);
+    }
+    throw RunTimeError(ErrorNumber::PathFileAccess);
+}
+
+void WriteAll(int descriptor, std::span<const std::uint8_t> bytes, const std::string& path) {
+    std::size_t count = 0;
+    while (count < bytes.size()) {
+        const ssize_t put = ::write(descriptor, bytes.data() + count, bytes.size() - count);
+        if (put < 0 && errno == EINTR) continue;
+        if (put < 0) RaiseSystemError(errno, Action::Write, path);
+        count += static_cast<std::size_t>(put);
+    }
+}
+
+// Where a link leads to, so that it is not the link that is replaced. A link to nothing stays itself.
+std::string TargetOf(const std::string& path) {
+    const std::unique_ptr<char, decltype(&std::free)> real{::realpath(path.c_str(), nullptr), &std::free};
+    return real ? std::string(real.get()) : path;
+}
+
+} // namespace
+
+void ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) {
+    const std::string target = TargetOf(path);
+    mode_t mode = 0;
+    struct stat found {};
+    if (::stat(target.c_str(), &found) == 0) {
+        if (!S_ISREG(found.st_mode)) throw RunTimeError(ErrorNumber::PathFileAccess);
+        if (::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0)
+            RaiseSystemError(errno, Action::Write, target);
+        mode = found.st_mode & 0777;
+    } else {
+        mode = ModeOfNewFiles();
+    }
+
+    std::string temporaryPath;
+    Descriptor file = OpenBeside(target, temporaryPath);
+    FileOnProbation temporary{temporaryPath};
+    WriteAll(file.Number(), bytes, target);
+    if (::fchmod(file.Number(), mode) != 0) RaiseSystemError(errno, Action::Write, target);
+    if (const int failure = file.Close(); failure != 0) RaiseSystemError(failure, Action::Write, target);
+    if (std::rename(temporaryPath.c_str(), target.c_str()) != 0)
+        RaiseSystemError(errno, Action::Write, target);
+    temporary.Keep();
+}
+
+void OverwriteFileStart(const std::string& path, std::span<const std::uint8_t> bytes) {
+    struct stat found {};
+    const bool wasThere = ::stat(path.c_str(), &found) == 0;
+    if (wasThere && !S_ISREG(found.st_mode)) throw RunTimeError(ErrorNumber::PathFileAccess);
+
+    Descriptor file = OpenRegularFile(path, O_WRONLY | O_CREAT, kOrdinaryMode, Action::Write);
+    FileOnProbation made{wasThere ? std::string() : path};
+    WriteAll(file.Number(), bytes, path);
+    if (const int failure = file.Close(); failure != 0) RaiseSystemError(failure, Action::Write, path);
+    made.Keep();
+}
+
+} // namespace mirelle::host
