@@ -33,7 +33,7 @@ void Surface::Resize(int width, int height) {
     image_ = nullptr;
     width_ = width;
     height_ = height;
-    if (!before) return;
+    if (!before || !painted_) return;
     auto resized = std::make_shared<Bitmap>(width, height, PixelOf(background_));
     CopyRect(*before, WholeOf(*before), *resized, 0, 0);
     image_ = std::move(resized);
@@ -42,15 +42,18 @@ void Surface::Resize(int width, int height) {
 void Surface::Assign(Picture picture) {
     picture_ = std::move(picture);
     image_ = nullptr;
+    painted_ = false;
 }
 
 void Surface::SetBackground(Color background) {
     background_ = background;
     image_ = nullptr;
+    painted_ = false;
 }
 
 void Surface::Clear() {
     image_ = nullptr;
+    painted_ = false;
 }
 
 Picture Surface::Image() const {
@@ -66,6 +69,7 @@ Bitmap& Surface::Paint() {
     } else if (image_.use_count() > 1) {
         image_ = std::make_shared<Bitmap>(*image_);
     }
+    painted_ = true;
     return *image_;
 }
 

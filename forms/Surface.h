@@ -58,6 +58,8 @@ private:
     Color background_ = 0xC0C0C0;
     Picture picture_;
     mutable std::shared_ptr<Bitmap> image_; // null until it is needed
+    bool painted_ =
+        false; // image_ holds more than picture and background: looking at it alone changes nothing
 };
 
 } // namespace mirelle
