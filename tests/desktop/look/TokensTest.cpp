@@ -1,5 +1,9 @@
 #include "desktop/look/Tokens.h"
 
+#include <algorithm>
+#include <string>
+#include <string_view>
+
 #include <gtest/gtest.h>
 
 #include "desktop/look/Contrast.h"
@@ -8,10 +12,21 @@ namespace mirelle::look {
 namespace {
 
 struct Pair {
-    const char* name;
+    std::string_view name;
     QRgb ink;
     QRgb ground;
 };
+
+void PrintTo(const Pair& pair, std::ostream* out) {
+    *out << pair.name;
+}
+
+std::string TestName(const testing::TestParamInfo<Pair>& row) {
+    std::string name(row.param.name);
+    std::replace_if(
+        name.begin(), name.end(), [](char c) { return c == ' ' || c == '-'; }, '_');
+    return name;
+}
 
 // Every pair of ink and ground that the painters bring together.
 constexpr Pair kTextPairs[] = {
@@ -45,7 +60,7 @@ TEST_P(TextPairs, AreReadableText) {
     EXPECT_GE(ContrastRatio(GetParam().ink, GetParam().ground), kReadableText) << GetParam().name;
 }
 
-INSTANTIATE_TEST_SUITE_P(Tokens, TextPairs, testing::ValuesIn(kTextPairs));
+INSTANTIATE_TEST_SUITE_P(Tokens, TextPairs, testing::ValuesIn(kTextPairs), TestName);
 
 class ShapePairs : public testing::TestWithParam<Pair> {};
 
@@ -53,7 +68,7 @@ TEST_P(ShapePairs, AreVisibleShapes) {
     EXPECT_GE(ContrastRatio(GetParam().ink, GetParam().ground), kReadableShape) << GetParam().name;
 }
 
-INSTANTIATE_TEST_SUITE_P(Tokens, ShapePairs, testing::ValuesIn(kShapePairs));
+INSTANTIATE_TEST_SUITE_P(Tokens, ShapePairs, testing::ValuesIn(kShapePairs), TestName);
 
 TEST(Tokens, GroundsAreNeutralSoThatTheyDoNotTintThePicture) {
     for (const QRgb ground : {kCanvas, kCard, kCardEdge, kControl, kField, kFieldEdge}) {
