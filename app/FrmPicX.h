@@ -13,6 +13,7 @@
 #include "forms/PictureBox.h"
 #include "forms/Ports.h"
 #include "forms/Variant.h"
+#include "fx/PixelFrame.h"
 
 #include <cstdint>
 #include <string>
@@ -59,6 +60,8 @@ public:
     mirelle::Picture StoredGradientPicture;
     std::int16_t RStart = 0, GStart = 0, BStart = 0; // the form gradient's two colours
     std::int16_t RFinish = 0, GFinish = 0, BFinish = 0;
+    // The pixel arrays of the point effects, with the records of the bitmaps that they were sized for.
+    PixelFrame FXSource, FXDest;
     Property<bool> Topmost{*this, false};
 
     CommonDialog CDialog1;

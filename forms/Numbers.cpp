@@ -38,6 +38,12 @@ std::int32_t ToLong(double value) {
     return Nearest<std::int32_t>(value);
 }
 
+float ToSingle(double value) {
+    if (std::fabs(value) > double{std::numeric_limits<float>::max()})
+        throw RunTimeError(ErrorNumber::Overflow);
+    return static_cast<float>(value);
+}
+
 template <class Rep>
 CheckedInteger<Rep> CheckedInteger<Rep>::From(std::int64_t wide) {
     if (wide < std::numeric_limits<Rep>::min() || wide > std::numeric_limits<Rep>::max()) {

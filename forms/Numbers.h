@@ -14,6 +14,8 @@ double RoundHalfEven(double value);
 // The nearest 16- or 32-bit integer, a tie to the even one. Raises error 6 when the result leaves the range.
 std::int16_t ToInteger(double value);
 std::int32_t ToLong(double value);
+// The nearest Single. Raises error 6 where there is none.
+float ToSingle(double value);
 
 // A checked integer: every step of arithmetic that leaves the range raises error 6, and division truncates
 // toward zero (error 11 for a zero divisor). Integer is 16 bits wide, Long 32.

@@ -6,7 +6,7 @@ namespace mirelle {
 class FrmPicX;
 
 class Library {
-  public:
+public:
     explicit Library(FrmPicX& form);
 };
 

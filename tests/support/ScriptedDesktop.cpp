@@ -19,11 +19,11 @@ std::optional<Answer> Next(std::deque<std::optional<Answer>>& answers) {
 }
 
 class RecordingShell : public ShellObject {
-  public:
+public:
     explicit RecordingShell(std::vector<SentItem>& sent) : sent_(sent) {}
     void SendKeys(const std::string& text) override { sent_.push_back({"SendKeys", text}); }
 
-  private:
+private:
     std::vector<SentItem>& sent_;
 };
 
@@ -49,9 +49,11 @@ void ScriptedClipboard::SetText(const std::string& newText) {
     text = newText;
 }
 
-MessageAnswer ScriptedDialogs::MsgBox(const std::string& text, MessageButtons buttons, const std::string& title) {
+MessageAnswer ScriptedDialogs::MsgBox(const std::string& text, MessageButtons buttons,
+                                      const std::string& title) {
     messages.push_back({text, title, buttons});
-    if (messageAnswers.empty()) return buttons == MessageButtons::YesNo ? MessageAnswer::No : MessageAnswer::Ok;
+    if (messageAnswers.empty())
+        return buttons == MessageButtons::YesNo ? MessageAnswer::No : MessageAnswer::Ok;
     const MessageAnswer answer = messageAnswers.front();
     messageAnswers.pop_front();
     return answer;
@@ -90,9 +92,11 @@ void ScriptedTime::DoEvents(PumpSite site) {
     if (site == PumpSite::Pass) {
         const auto [first, last] = duringPass.equal_range(++pass_);
         std::vector<std::function<void()>> events;
-        for (auto entry = first; entry != last; ++entry) events.push_back(std::move(entry->second));
+        for (auto entry = first; entry != last; ++entry)
+            events.push_back(std::move(entry->second));
         duringPass.erase(first, last);
-        for (const auto& event : events) event();
+        for (const auto& event : events)
+            event();
     }
 }
 

@@ -1,5 +1,5 @@
-// A desktop made of stand-ins: every port of the program, scripted and recorded. The subject tests and the session
-// driver run the real form over it.
+// A desktop made of stand-ins: every port of the program, scripted and recorded. The subject tests and the
+// session driver run the real form over it.
 #pragma once
 
 #include "forms/Ports.h"
@@ -18,7 +18,7 @@ namespace mirelle::test {
 struct ProgramEnded {};
 
 class ScriptedClipboard : public Clipboard {
-  public:
+public:
     bool HasBitmap() const override { return !bitmap.IsEmpty(); }
     Picture GetData() override;
     void Clear() override;
@@ -44,9 +44,10 @@ struct ShownDialog {
 
 // A dialog with no answer lined up is cancelled; a message box gets OK, a question No.
 class ScriptedDialogs : public Dialogs {
-  public:
+public:
     MessageAnswer MsgBox(const std::string& text, MessageButtons buttons, const std::string& title) override;
-    std::string InputBox(const std::string& prompt, const std::string& title, const std::string& defaultText) override;
+    std::string InputBox(const std::string& prompt, const std::string& title,
+                         const std::string& defaultText) override;
     std::optional<std::string> ShowOpen(const OpenRequest& request) override;
     std::optional<Color> ShowColor(Color current) override;
 
@@ -68,7 +69,7 @@ struct SentItem {
 
 // A clock that stands still but in pauses, where each look at it moves it on by 0.05 seconds.
 class ScriptedTime : public EventPump {
-  public:
+public:
     explicit ScriptedTime(std::vector<SentItem>& sent) : sent_(sent) {}
 
     double Timer() override;
@@ -82,23 +83,23 @@ class ScriptedTime : public EventPump {
 
     double seconds = 36000; // since midnight
     int pumps = 0;
-    std::deque<std::function<void()>> duringPause;       // one is taken in each pause
+    std::deque<std::function<void()>> duringPause;        // one is taken in each pause
     std::multimap<int, std::function<void()>> duringPass; // keyed by the pass after which they run
 
-  private:
+private:
     std::vector<SentItem>& sent_;
     std::vector<bool> eventPending_; // one entry for each pause that is running
     int pass_ = 0;
 };
 
 class ScriptedKeyboard : public Keyboard {
-  public:
+public:
     bool EscapeWentDown() override { return std::exchange(escapePressed, false); }
     bool escapePressed = false;
 };
 
 class ScriptedConsole : public ConsoleShell {
-  public:
+public:
     void AppActivate(const std::string& title) override;
     std::unique_ptr<ShellObject> CreateObject(const std::string& className) override;
 
@@ -112,7 +113,7 @@ struct OpenedDocument {
 };
 
 class ScriptedViewer : public SystemViewer {
-  public:
+public:
     void Open(const std::string& target, const std::string& workingFolder, int showMode) override {
         opened.push_back({target, workingFolder, showMode});
     }
@@ -120,7 +121,7 @@ class ScriptedViewer : public SystemViewer {
 };
 
 class ScriptedScreen : public Screen {
-  public:
+public:
     ScreenSize Size() const override { return size; }
     ScreenSize MaximisedClientSize() const override { return size; }
     bool SetTopMost(bool wanted) override {
@@ -132,13 +133,13 @@ class ScriptedScreen : public Screen {
 };
 
 class ScriptedProcess : public Process {
-  public:
+public:
     [[noreturn]] void End() override { throw ProgramEnded{}; }
 };
 
 // Everything but files and pictures, which the user of this class brings along.
 class ScriptedDesktop {
-  public:
+public:
     ScriptedDesktop() : time(console.sent) {}
     Ports PortsOver(FileSystem& files, PictureLoader& loader, ImageEncoders& encoders);
 

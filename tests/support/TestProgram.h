@@ -13,7 +13,7 @@ namespace mirelle::test {
 
 // Loads what a test put there, counting how often; a path that is not there raises error 53.
 class ScriptedLoader : public PictureLoader {
-  public:
+public:
     Picture LoadPicture(const std::string& path) override {
         if (path.empty()) return Picture();
         ++loads;
@@ -28,7 +28,7 @@ class ScriptedLoader : public PictureLoader {
 
 // Keeps what it was given to save.
 class ScriptedEncoders : public ImageEncoders {
-  public:
+public:
     struct Saved {
         Picture picture;
         ImageFormat format;

@@ -1,7 +1,0 @@
-#include "canvas/Canvas.h"
-
-namespace mirelle {
-
-Canvas::Canvas(FrmPicX&) {}
-
-} // namespace mirelle

@@ -1,0 +1,26 @@
+// The clipboard's way in and out: Command5 brings its bitmap to the canvas, Command8 clears it, Command12
+// puts the Material Image on it.
+#pragma once
+
+#include "forms/PictureBox.h"
+
+namespace mirelle {
+
+class FrmPicX;
+
+class Paste {
+public:
+    explicit Paste(FrmPicX& form);
+
+private:
+    void PasteFromClipboard();
+    void PasteIntoGradient();
+    void CopyMaterialImage();
+    bool ClipboardHasBitmap() const;
+    // Takes the clipboard's bitmap afresh; a holder keeps its picture where there is none to be had.
+    void TakeBitmap(PictureBox& holder);
+
+    FrmPicX& form_;
+};
+
+} // namespace mirelle

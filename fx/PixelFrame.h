@@ -1,0 +1,78 @@
+// The pixel frame of the point effects: the record of a device bitmap, and its bits as an array of bytes with
+// three subscripts (channel, x, y), the channel running fastest, then x, then y, rows from the top.
+//
+// Sizing and use are apart: SizeFXBits sizes the arrays when a new picture comes, and the effects trust them.
+// So an array can be larger or smaller than the picture of the moment; the bits are then copied flat, without
+// regard to where rows begin, and a subscript beyond a bound raises error 9.
+#pragma once
+
+#include "forms/Picture.h"
+
+#include <cstdint>
+#include <span>
+
+namespace mirelle {
+
+// A BITMAP record as GetObject fills it.
+struct BitmapRecord {
+    std::int32_t bmType = 0;
+    std::int32_t bmWidth = 0;      // pixels
+    std::int32_t bmHeight = 0;     // pixels
+    std::int32_t bmWidthBytes = 0; // bytes of a row
+    std::int16_t bmPlanes = 0;
+    std::int16_t bmBitsPixel = 0;
+    std::int32_t bmBits = 0; // 0: a device bitmap's bits have no address
+};
+static_assert(sizeof(BitmapRecord) == 24);
+
+// Raises error 6 when a row has more bytes than 32 bits count.
+BitmapRecord RecordOf(const Bitmap& bitmap);
+
+class PixelArray {
+public:
+    // Four bytes a pixel: 0 blue, 1 green, 2 red, 3 the fourth byte, which no effect writes.
+    static constexpr int kChannels = 4;
+
+    // As long as it has not been sized the array has no elements at all: every subscript raises error 9.
+    PixelArray() = default;
+
+    // Makes the array anew, all bytes 0, for the bits of a record. Raises error 11 for a record of no width
+    // and 9 for one of no height or of other than 32 bits a pixel; the array keeps what it was then.
+    void Redim(const BitmapRecord& record);
+
+    int Width() const { return pixels_.Width(); }
+    int Height() const { return pixels_.Height(); }
+
+    // One byte. Raises error 9 beyond a bound.
+    std::uint8_t& At(int channel, int x, int y);
+    std::uint8_t At(int channel, int x, int y) const;
+
+    // The elements of one y, and all of them; y in 0..Height()-1, unchecked.
+    std::span<Pixel> Row(int y) { return pixels_.Row(y); }
+    std::span<const Pixel> Row(int y) const { return pixels_.Row(y); }
+    std::span<Pixel> Pixels() { return pixels_.Pixels(); }
+    std::span<const Pixel> Pixels() const { return pixels_.Pixels(); }
+
+private:
+    void CheckSubscripts(int channel, int x, int y) const;
+
+    Bitmap pixels_;
+};
+
+// A record and the array that was sized by it.
+struct PixelFrame {
+    BitmapRecord info;
+    PixelArray bytes;
+
+    // GetObject, and the array made anew: one half of SizeFXBits. Raises as PixelArray::Redim.
+    void SizeFor(const Bitmap& bitmap);
+    // bmWidthBytes x bmHeight, the bytes that GetBitmapBits and SetBitmapBits are asked for.
+    std::int64_t ByteCount() const { return std::int64_t{info.bmWidthBytes} * info.bmHeight; }
+};
+
+// The flat copies between a bitmap and a frame, from byte 0 on: as many bytes as the frame's record tells,
+// and no more than either side has. Raise error 9 while the array has no elements.
+void GetBitmapBits(const Bitmap& from, PixelFrame& to);
+void SetBitmapBits(Bitmap& to, const PixelFrame& from);
+
+} // namespace mirelle

@@ -1,0 +1,113 @@
+#include "tests/support/Patterns.h"
+#include "tests/support/TestProgram.h"
+
+#include <gtest/gtest.h>
+
+namespace mirelle::test {
+namespace {
+
+class OpenImageTest : public ::testing::Test {
+protected:
+    OpenImageTest() {
+        program.loader.pictures["D:\\wall.jpg"] = wall;
+        program.loader.pictures["D:\\wall.tif"] = Picture();
+        form.PicImage.Picture = former;
+        form.Picture = former;
+        form.picSmall.Picture = former;
+    }
+    void Choose(const std::string& path) {
+        program.desktop.dialogs.openAnswers.push_back(path);
+        form.Command23.Click();
+    }
+
+    TestProgram program;
+    FrmPicX& form = program.form;
+    Picture wall = ChartPicture(40, 30, 7);
+    Picture former = ChartPicture(10, 10, 1);
+};
+
+TEST_F(OpenImageTest, AsksWithItsFilterTitleAndFlags) {
+    form.Command23.Click();
+    ASSERT_EQ(program.desktop.dialogs.dialogs.size(), 1U);
+    const OpenRequest& request = program.desktop.dialogs.dialogs[0].open;
+    EXPECT_EQ(request.filter,
+              "JPG Files (*.jpeg;*.jpg)|*.jpeg;*.jpg|Bmp Files (*.bmp)|*.bmp|Gif Files (*.gif)|*.gif)");
+    EXPECT_EQ(request.title, "Open to Canvas");
+    EXPECT_EQ(request.flags, 2050);
+}
+
+TEST_F(OpenImageTest, CancelIsReportedAndChangesNothing) {
+    form.Command23.Click();
+    ASSERT_EQ(program.desktop.dialogs.messages.size(), 1U);
+    EXPECT_EQ(program.desktop.dialogs.messages[0].text, "Open cancelled");
+    EXPECT_TRUE(form.PicImage.Picture().SharesPixelsWith(former));
+    EXPECT_TRUE(form.picSmall.Picture().SharesPixelsWith(former));
+}
+
+TEST_F(OpenImageTest, FillsMaterialImageAndCanvasFromOneDecoding) {
+    Choose("D:\\wall.jpg");
+    EXPECT_TRUE(form.picSmall.Picture().SharesPixelsWith(wall));
+    EXPECT_TRUE(form.PicImage.Picture().SharesPixelsWith(wall));
+    EXPECT_TRUE(form.Picture().SharesPixelsWith(wall));
+    EXPECT_EQ(form.picSmall.Width, 40);
+    EXPECT_EQ(form.PicImage.Height, 30);
+    EXPECT_EQ(form.HSImage.Max, 45);
+    EXPECT_EQ(form.VSImage.Max, 35);
+    EXPECT_EQ(program.loader.loads, 1);
+    EXPECT_TRUE(program.desktop.dialogs.messages.empty());
+}
+
+TEST_F(OpenImageTest, LeavesEveryOtherHolderAndNameAlone) {
+    form.Image1.Picture = former;
+    form.CurrentImagePath = "C:\\old.jpg";
+    form.textProfileName.Text = "Art_3";
+    Choose("D:\\wall.jpg");
+    EXPECT_TRUE(form.Image1.Picture().SharesPixelsWith(former));
+    for (const PictureBox* box :
+         {&form.picSmall2, &form.Picture3, &form.Pic1, &form.Picture1, &form.Picture4}) {
+        EXPECT_TRUE(box->Picture().IsEmpty()) << box->Name();
+    }
+    EXPECT_EQ(form.CurrentImagePath.Text(), "C:\\old.jpg");
+    EXPECT_EQ(form.textProfileName.Text(), "Art_3");
+}
+
+TEST_F(OpenImageTest, WithoutOpenBothTheCanvasStays) {
+    form.Check4.Value = kUnchecked;
+    Choose("D:\\wall.jpg");
+    EXPECT_TRUE(form.picSmall.Picture().SharesPixelsWith(wall));
+    EXPECT_TRUE(form.PicImage.Picture().SharesPixelsWith(former));
+    EXPECT_TRUE(form.Picture().SharesPixelsWith(former));
+}
+
+TEST_F(OpenImageTest, KeepAndLockAndOnlyAreNotRead) {
+    form.ckKeep.Value = kChecked;
+    form.ckOnly.Value = kChecked;
+    form.ckLock.Value = kChecked; // switches AutoSize off; the open switches it on again
+    Choose("D:\\wall.jpg");
+    EXPECT_TRUE(form.picSmall.Picture().SharesPixelsWith(wall));
+    EXPECT_TRUE(form.PicImage.Picture().SharesPixelsWith(wall));
+    EXPECT_TRUE(form.picSmall.AutoSize);
+    EXPECT_EQ(form.picSmall.Width, 40);
+}
+
+TEST_F(OpenImageTest, AFileThatIsNoPictureChangesNothingAndSaysNothing) {
+    for (const char* path : {"D:\\wall.tif", "D:\\missing.jpg"}) {
+        Choose(path);
+        EXPECT_TRUE(form.picSmall.Picture().SharesPixelsWith(former)) << path;
+        EXPECT_TRUE(form.PicImage.Picture().SharesPixelsWith(former)) << path;
+    }
+    EXPECT_TRUE(program.desktop.dialogs.messages.empty());
+}
+
+TEST_F(OpenImageTest, CropAfterOpeningIntoTheMaterialImageAloneCutsTheOldCanvas) {
+    form.Check4.Value = kUnchecked;
+    Choose("D:\\wall.jpg");
+    form.TextCrop(0).Text = "4";
+    form.TextCrop(1).Text = "5";
+    form.MouseDown({1, 0, 2, 3});
+    form.MouseUp({1, 0, 2, 3});
+    EXPECT_EQ(form.picSmall.Image().Pixels(), Cut(former.Pixels(), 2, 3, 5, 4));
+}
+
+} // namespace
+} // namespace mirelle::test
