@@ -6,7 +6,7 @@ namespace mirelle {
 class FrmPicX;
 
 class ImageFX {
-  public:
+public:
     explicit ImageFX(FrmPicX& form);
 };
 
