@@ -27,6 +27,7 @@ constexpr std::array kDescriptions = {
     Row{ErrorNumber::PermissionDenied, "Permission denied"},
     Row{ErrorNumber::PathFileAccess, "Path/File access error"},
     Row{ErrorNumber::PathNotFound, "Path not found"},
+    Row{ErrorNumber::ObjectNotSet, "Object variable or With block variable not set"},
     Row{ErrorNumber::NoSuchArrayElement, "Control array element doesn't exist"},
     Row{ErrorNumber::InvalidPropertyValue, "Invalid property value"},
     Row{ErrorNumber::InvalidPropertyArrayIndex, "Invalid property array index"},

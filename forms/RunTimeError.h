@@ -29,6 +29,7 @@ enum class ErrorNumber {
     PermissionDenied = 70,
     PathFileAccess = 75,
     PathNotFound = 76,
+    ObjectNotSet = 91,
     NoSuchArrayElement = 340,
     InvalidPropertyValue = 380,
     InvalidPropertyArrayIndex = 381,

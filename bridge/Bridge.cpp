@@ -1,7 +1,0 @@
-#include "bridge/Bridge.h"
-
-namespace mirelle {
-
-Bridge::Bridge(FrmPicX&) {}
-
-} // namespace mirelle
