@@ -8,6 +8,11 @@
 
 namespace mirelle {
 
+void RefuseUnknownState(const int& state) {
+    if (state < kWindowNormal || state > kWindowMaximized)
+        throw RunTimeError(ErrorNumber::InvalidPropertyValue);
+}
+
 Form::Form(std::string name, Screen& screen, ScreenSize clientSize)
     : name_(std::move(name)), screen_(screen), normalSize_(clientSize) {
     surface_.SetBackground(BackColor);
@@ -72,6 +77,11 @@ void Form::AssignPicture(mirelle::Picture picture) {
     TellWatchers();
 }
 
+ScreenSize Form::ClientSizeIn(int state) const {
+    if (state == kWindowMaximized) return screen_.MaximisedClientSize();
+    return state == kWindowNormal ? normalSize_ : ScreenSize{ClientWidth(), ClientHeight()};
+}
+
 void Form::UserWindow(int state, ScreenSize clientSize) {
     const bool resized = clientSize.width != ClientWidth() || clientSize.height != ClientHeight();
     if (state == kWindowNormal) normalSize_ = clientSize;
@@ -98,8 +108,7 @@ void Form::TakeClientSize(ScreenSize clientSize) {
 }
 
 void Form::ChangeStateByCode() {
-    if (WindowState == kWindowMaximized) TakeClientSize(screen_.MaximisedClientSize());
-    if (WindowState == kWindowNormal) TakeClientSize(normalSize_);
+    TakeClientSize(ClientSizeIn(WindowState));
     Resize();
 }
 

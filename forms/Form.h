@@ -26,6 +26,8 @@ constexpr int kWindowMaximized = 2;
 constexpr int kScaleUser = 0;
 constexpr int kScalePixels = 3;
 
+void RefuseUnknownState(const int& state); // raises error 380
+
 class Form : public Watched {
 public:
     Form(std::string name, Screen& screen, ScreenSize clientSize);
@@ -40,8 +42,8 @@ public:
     Property<float> Height{*this, 0, RefuseNegative};
     Property<Color> BackColor{*this, 0xC0C0C0};
     Property<int> MousePointer{*this, kPointerDefault};
-    // Setting it by code changes the window and runs Resize.
-    Property<int> WindowState{*this, kWindowNormal};
+    // Setting it by code changes the window and runs Resize. Error 380 for a state that there is not.
+    Property<int> WindowState{*this, kWindowNormal, RefuseUnknownState};
     PictureProperty<Form> Picture{*this};
 
     Event<> Resize;
@@ -76,6 +78,8 @@ public:
     Bitmap& Paint();
     Color Point(float x, float y) const;
 
+    // The client size that the window takes when it comes to a state; a minimised one keeps what it has.
+    ScreenSize ClientSizeIn(int state) const;
     // The user changed the window's state or size: Resize runs, if anything is other than before.
     void UserWindow(int state, ScreenSize clientSize);
     // The user closes the window.

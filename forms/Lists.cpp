@@ -50,8 +50,15 @@ void ListBox::SetText(const std::string& text) {
     SetListIndex(found == rows_.end() ? kNoRow : static_cast<int>(found - rows_.begin()));
 }
 
+void ListBox::UserClick() {
+    if (current_ != kNoRow) Control::UserClick();
+}
+
 ComboBox::ComboBox(Form& form, std::string name, int index) : ListControl(form, std::move(name), index) {
-    Text.OnChange([this] { Change(); });
+    Text.OnChange([this] {
+        current_ = kNoRow;
+        Change();
+    });
 }
 
 void ComboBox::Clear() {

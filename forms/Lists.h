@@ -46,10 +46,11 @@ public:
     // The text of the current row; setting it selects the row equal to it, or none.
     std::string Text() const { return List(current_); }
     void SetText(const std::string& text);
+    void UserClick() override; // a click on the current row
 };
 
-// A text with a list to choose from. Typing or assigning another text runs Change; choosing a row sets the
-// text and runs Click.
+// A text with a list to choose from. Typing or assigning another text leaves no row current and runs Change;
+// choosing a row sets the text and runs Click.
 class ComboBox : public ListControl {
 public:
     ComboBox(Form& form, std::string name, int index = -1);

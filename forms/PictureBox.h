@@ -70,7 +70,9 @@ public:
     const mirelle::Picture& AssignedPicture() const { return surface_.Assigned(); }
     void AssignPicture(mirelle::Picture picture);
     // A place in the box from device pixels, in its own scale.
-    float ScaleFromPixels(int pixels) const { return MeasureOf(pixels, units_.inner); }
+    float ScaleFromPixels(float pixels) const {
+        return units_.inner == ScaleUnit::Twips ? pixels * kTwipsPerPixel : pixels;
+    }
 
 private:
     void TakePictureSize();
