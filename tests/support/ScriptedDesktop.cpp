@@ -9,6 +9,7 @@ namespace {
 
 constexpr double kSecondsPerDay = 86400;
 constexpr double kLookSeconds = 0.05;
+constexpr int kMostLooks = static_cast<int>(kSecondsPerDay / kLookSeconds);
 
 template <class Answer>
 std::optional<Answer> Next(std::deque<std::optional<Answer>>& answers) {
@@ -76,7 +77,10 @@ std::optional<Color> ScriptedDialogs::ShowColor(Color) {
 }
 
 double ScriptedTime::Timer() {
-    if (!eventPending_.empty()) seconds = std::fmod(seconds + kLookSeconds, kSecondsPerDay);
+    if (!eventPending_.empty()) {
+        if (++looks_ > kMostLooks) throw EndlessPause();
+        seconds = std::fmod(seconds + kLookSeconds, kSecondsPerDay);
+    }
     return seconds;
 }
 
@@ -103,10 +107,16 @@ void ScriptedTime::DoEvents(PumpSite site) {
 void ScriptedTime::PauseBegins(double delay) {
     sent_.push_back({"Pause", {}, delay});
     eventPending_.push_back(true);
+    looks_ = 0;
 }
 
 void ScriptedTime::PauseEnds() {
     if (!eventPending_.empty()) eventPending_.pop_back();
+}
+
+void ScriptedTime::HandlersHaveEnded() {
+    eventPending_.clear();
+    pass_ = 0;
 }
 
 void ScriptedTime::Advance(double milliseconds) {

@@ -8,6 +8,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -67,6 +68,12 @@ struct SentItem {
     bool failed = false;
 };
 
+// Thrown by the clock in a pause that would go on for ever: one begun so late in the day that the clock falls
+// back to zero ahead of its end, with nobody to press Escape.
+struct EndlessPause : std::runtime_error {
+    EndlessPause() : std::runtime_error("the pause does not end") {}
+};
+
 // A clock that stands still but in pauses, where each look at it moves it on by 0.05 seconds.
 class ScriptedTime : public EventPump {
 public:
@@ -78,8 +85,8 @@ public:
     void PauseBegins(double delay) override;
     void PauseEnds() override;
     void Advance(double milliseconds);
-    // The next pass of a smudger is its first.
-    void ResetPasses() { pass_ = 0; }
+    // No handler runs: no pause is open, and the next pass of a smudger is its first.
+    void HandlersHaveEnded();
 
     double seconds = 36000; // since midnight
     int pumps = 0;
@@ -90,6 +97,7 @@ private:
     std::vector<SentItem>& sent_;
     std::vector<bool> eventPending_; // one entry for each pause that is running
     int pass_ = 0;
+    int looks_ = 0; // at the clock, since the innermost pause began
 };
 
 class ScriptedKeyboard : public Keyboard {
