@@ -1,0 +1,64 @@
+// Commands for the picture holders.
+#include "forms/PictureBox.h"
+#include "tests/driver/Commands.h"
+#include "tests/driver/Dump.h"
+#include "tests/driver/Errors.h"
+#include "tests/driver/Json.h"
+#include "tests/driver/Values.h"
+
+#include <array>
+
+namespace mirelle::driver {
+namespace {
+
+// Does something to a holder of whatever kind: the form, a picture box or an image.
+template <class Action>
+auto WithHolder(Session& session, const Reference& reference, Action action) {
+    if (Form* form = session.FindForm(reference)) return action(*form);
+    Control& control = session.ControlOf(reference);
+    if (auto* box = dynamic_cast<PictureBox*>(&control)) return action(*box);
+    if (auto* image = dynamic_cast<ImageControl*>(&control)) return action(*image);
+    throw UsageError(JsonString(TextOf(reference)) + " holds no picture");
+}
+
+std::string Load(Session& session, Words words) {
+    WithHolder(session, ReferenceIn(words[0]),
+               [&](auto& holder) { holder.Picture = session.ReadPicture(words[1]); });
+    return {};
+}
+
+std::string Dump(Session& session, Words words) {
+    const PropertyReference layer = PropertyReferenceIn(words[0]);
+    return WithHolder(session, layer.owner, [&](auto& holder) {
+        if (layer.property.name == "Picture") return DumpPicture(holder.Picture(), words[1]);
+        if constexpr (requires { holder.Image(); }) {
+            if (layer.property.name == "Image") return DumpPicture(holder.Image(), words[1]);
+        }
+        throw UsageError(JsonString(words[0]) + " is no layer of a picture");
+    });
+}
+
+std::string Point(Session& session, Words words) {
+    const auto x = Read<float>(words[1]);
+    const auto y = Read<float>(words[2]);
+    return WithHolder(session, ReferenceIn(words[0]), [&](auto& holder) -> std::string {
+        if constexpr (requires { holder.Point(x, y); })
+            return JsonNumber(holder.Point(x, y));
+        else
+            throw UsageError(JsonString(words[0]) + " has no surface");
+    });
+}
+
+constexpr std::array kCommands = {
+    Command{"load", "HOLDER FILE", 2, 2, Load},
+    Command{"dump", "HOLDER.Picture|Image FILE", 2, 2, Dump},
+    Command{"point", "HOLDER X Y", 3, 3, Point},
+};
+
+} // namespace
+
+std::span<const Command> PictureCommands() {
+    return kCommands;
+}
+
+} // namespace mirelle::driver
