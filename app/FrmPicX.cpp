@@ -87,7 +87,7 @@ void FrmPicX::ListTheLibrary() {
     ResumeNext([this] { Dir5.SetPath(AppPath("Support/Materials/")); });
     for (int row = 0; row < File5.ListCount(); ++row) {
         Label8(46).Caption = CountText(File5.ListCount());
-        ListHigh.AddItem(CStr(NumberOfFileName(File5.List(row))));
+        ResumeNext([&] { ListHigh.AddItem(CStr(NumberOfFileName(File5.List(row)))); });
     }
     ResumeNext([this] { File5.Selected(0) = true; });
     Picture = PicImage.Picture;

@@ -1,13 +1,23 @@
 // The handlers of library, names, counter, saving, connected to the form.
 #pragma once
 
-namespace mirelle {
+#include "library/FilePreview.h"
+#include "library/IncrementCounter.h"
+#include "library/MaterialNames.h"
+#include "library/Navigator.h"
 
-class FrmPicX;
+namespace mirelle {
 
 class Library {
 public:
-    explicit Library(FrmPicX& form);
+    explicit Library(FrmPicX& form)
+        : navigator_(form), filePreview_(form), materialNames_(form), incrementCounter_(form) {}
+
+private:
+    Navigator navigator_;
+    FilePreview filePreview_;
+    MaterialNames materialNames_;
+    IncrementCounter incrementCounter_;
 };
 
 } // namespace mirelle

@@ -45,6 +45,14 @@ public:
     void AddFile(const std::string& path, std::string_view text) {
         AddFile(path, Bytes(text.begin(), text.end()));
     }
+    // With everything in it, as another program would.
+    void RemoveFolder(const std::string& path) {
+        const std::string key = Key(Absolute(path));
+        const auto inside = [&key](const auto& entry) { return entry.first.starts_with(key + '\\'); };
+        std::erase_if(files_, inside);
+        std::erase_if(folders_, inside);
+        folders_.erase(key);
+    }
     std::string Text(const std::string& path) const {
         const Bytes bytes = ReadFile(path);
         return {bytes.begin(), bytes.end()};

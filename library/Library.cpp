@@ -1,7 +1,0 @@
-#include "library/Library.h"
-
-namespace mirelle {
-
-Library::Library(FrmPicX&) {}
-
-} // namespace mirelle
