@@ -1,6 +1,7 @@
 #include "forms/PictureBox.h"
 
 #include "forms/Numbers.h"
+#include "forms/RunTimeError.h"
 
 namespace mirelle {
 
@@ -51,9 +52,15 @@ void PictureBox::Cls() {
 
 void PictureBox::PaintPicture(const mirelle::Picture& source, float left, float top, float width,
                               float height, float sourceLeft, float sourceTop) {
-    const PixelRect from{PixelsOf(sourceLeft, units_.inner), PixelsOf(sourceTop, units_.inner),
+    const PixelArea from{PixelsOf(sourceLeft, units_.inner), PixelsOf(sourceTop, units_.inner),
                          PixelsOf(width, units_.inner), PixelsOf(height, units_.inner)};
     surface_.Copy(source.Pixels(), from, PixelsOf(left, units_.inner), PixelsOf(top, units_.inner));
+    TellWatchers();
+}
+
+void PictureBox::StretchPicture(const mirelle::Picture& source) {
+    if (source.IsEmpty()) throw RunTimeError(ErrorNumber::InvalidPicture);
+    surface_.Stretch(source);
     TellWatchers();
 }
 

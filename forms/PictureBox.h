@@ -64,6 +64,9 @@ public:
     // even. What lies beyond the source or the box is not copied; an empty source copies nothing.
     void PaintPicture(const mirelle::Picture& source, float left, float top, float width, float height,
                       float sourceLeft, float sourceTop);
+    // PaintPicture without a source area: the whole source over the whole box, stretched where their sizes
+    // differ. An empty source raises error 481.
+    void StretchPicture(const mirelle::Picture& source);
     // The image to paint in, pixel by pixel.
     Bitmap& Paint();
 

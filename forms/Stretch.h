@@ -10,18 +10,9 @@
 #pragma once
 
 #include "forms/Picture.h"
+#include "forms/PixelArea.h"
 
 namespace mirelle {
-
-// x and y may be negative; an area without width or height holds no pixel.
-struct PixelArea {
-    int x = 0;
-    int y = 0;
-    int width = 0;
-    int height = 0;
-
-    friend bool operator==(const PixelArea&, const PixelArea&) = default;
-};
 
 // Draws `from` of the source over `to` of the target. Nothing is drawn where one of the areas or the source
 // holds no pixel. Raises error 5 for an area longer than kLongestStretch on a side.

@@ -1,25 +1,27 @@
 #include "forms/Surface.h"
 
+#include "forms/Stretch.h"
+
 #include <algorithm>
 
 namespace mirelle {
 namespace {
 
-void CopyRect(const Bitmap& source, PixelRect from, Bitmap& target, int left, int top) {
-    const int skipX = std::max({0, -from.left, -left});
-    const int skipY = std::max({0, -from.top, -top});
-    const int width = std::min({from.width, source.Width() - from.left, target.Width() - left}) - skipX;
-    const int height = std::min({from.height, source.Height() - from.top, target.Height() - top}) - skipY;
+void CopyRect(const Bitmap& source, PixelArea from, Bitmap& target, int left, int top) {
+    const int skipX = std::max({0, -from.x, -left});
+    const int skipY = std::max({0, -from.y, -top});
+    const int width = std::min({from.width, source.Width() - from.x, target.Width() - left}) - skipX;
+    const int height = std::min({from.height, source.Height() - from.y, target.Height() - top}) - skipY;
     if (width <= 0) return;
     for (int y = 0; y < height; ++y) {
         const auto row =
-            source.Row(from.top + skipY + y)
-                .subspan(static_cast<std::size_t>(from.left + skipX), static_cast<std::size_t>(width));
+            source.Row(from.y + skipY + y)
+                .subspan(static_cast<std::size_t>(from.x + skipX), static_cast<std::size_t>(width));
         std::ranges::copy(row, target.Row(top + skipY + y).begin() + left + skipX);
     }
 }
 
-PixelRect WholeOf(const Bitmap& bitmap) {
+PixelArea WholeOf(const Bitmap& bitmap) {
     return {0, 0, bitmap.Width(), bitmap.Height()};
 }
 
@@ -80,10 +82,14 @@ Color Surface::Point(int x, int y) const {
     return assigned.Contains(x, y) ? ColorOf(assigned.At(x, y)) : background_;
 }
 
-void Surface::Copy(const Bitmap& source, PixelRect from, int left, int top) {
+void Surface::Copy(const Bitmap& source, PixelArea from, int left, int top) {
     if (from.IsEmpty()) return;
     // The source may be this surface's own image: Paint then takes the copy.
     CopyRect(source, from, Paint(), left, top);
+}
+
+void Surface::Stretch(const Picture& picture) {
+    StretchHalftone(picture.Pixels(), WholeOf(picture.Pixels()), Paint(), {0, 0, width_, height_});
 }
 
 std::shared_ptr<Bitmap> Surface::Compose() const {

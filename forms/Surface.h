@@ -7,22 +7,11 @@
 #pragma once
 
 #include "forms/Picture.h"
+#include "forms/PixelArea.h"
 
 #include <memory>
 
 namespace mirelle {
-
-// A rectangle in pixels: half-open, its right and lower edges are not in it.
-struct PixelRect {
-    int left = 0;
-    int top = 0;
-    int width = 0;
-    int height = 0;
-
-    int Right() const { return left + width; }
-    int Bottom() const { return top + height; }
-    bool IsEmpty() const { return width <= 0 || height <= 0; }
-};
 
 class Surface {
 public:
@@ -48,7 +37,9 @@ public:
     Color Point(int x, int y) const;
 
     // Copies the source's pixels of `from` to (left, top), clipped to what exists on both sides.
-    void Copy(const Bitmap& source, PixelRect from, int left, int top);
+    void Copy(const Bitmap& source, PixelArea from, int left, int top);
+    // Paints the whole picture over the whole surface, in halftone mode.
+    void Stretch(const Picture& picture);
 
 private:
     std::shared_ptr<Bitmap> Compose() const;

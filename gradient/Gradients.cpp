@@ -1,7 +1,0 @@
-#include "gradient/Gradients.h"
-
-namespace mirelle {
-
-Gradients::Gradients(FrmPicX&) {}
-
-} // namespace mirelle
