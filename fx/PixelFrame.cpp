@@ -10,19 +10,19 @@ namespace mirelle {
 namespace {
 
 std::size_t BytesToCopy(const PixelFrame& frame, const Bitmap& bitmap) {
-    if (frame.bytes.Pixels().empty()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+    if (frame.bytes.IsEmpty()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     const auto asked = static_cast<std::size_t>(std::max<std::int64_t>(frame.ByteCount(), 0));
     return std::min({asked, bitmap.ByteCount(), frame.bytes.Pixels().size_bytes()});
 }
 
 } // namespace
 
-BitmapRecord RecordOf(const Bitmap& bitmap) {
+BitmapRecord RecordOf(int width, int height) {
     constexpr int bytesPerPixel = static_cast<int>(sizeof(Pixel));
     return {
-        .bmWidth = bitmap.Width(),
-        .bmHeight = bitmap.Height(),
-        .bmWidthBytes = Long(bitmap.Width()) * Long(bytesPerPixel),
+        .bmWidth = width,
+        .bmHeight = height,
+        .bmWidthBytes = Long(width) * Long(bytesPerPixel),
         .bmPlanes = 1,
         .bmBitsPixel = 8 * bytesPerPixel,
     };
@@ -33,18 +33,24 @@ void PixelArray::Redim(const BitmapRecord& record) {
     const double quotient = static_cast<double>(record.bmWidthBytes) / record.bmWidth;
     const bool sound = ToLong(quotient - 1) == kChannels - 1 && record.bmWidth > 0 && record.bmHeight > 0;
     if (!sound) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-    pixels_ = Bitmap(record.bmWidth, record.bmHeight);
+    width_ = record.bmWidth;
+    height_ = record.bmHeight;
+    pixels_ = Bitmap();
+}
+
+Bitmap& PixelArray::Bytes() const {
+    if (pixels_.IsEmpty()) pixels_ = Bitmap(width_, height_);
+    return pixels_;
 }
 
 void PixelArray::CheckSubscripts(int channel, int x, int y) const {
-    if (channel < 0 || channel >= kChannels || !pixels_.Contains(x, y)) {
-        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-    }
+    const bool inside = channel >= 0 && channel < kChannels && x >= 0 && x < width_ && y >= 0 && y < height_;
+    if (!inside) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
 }
 
 std::uint8_t& PixelArray::At(int channel, int x, int y) {
     CheckSubscripts(channel, x, y);
-    Pixel& pixel = pixels_.At(x, y);
+    Pixel& pixel = Bytes().At(x, y);
     switch (channel) {
     case 0:
         return pixel.blue;
@@ -61,8 +67,8 @@ std::uint8_t PixelArray::At(int channel, int x, int y) const {
     return const_cast<PixelArray&>(*this).At(channel, x, y);
 }
 
-void PixelFrame::SizeFor(const Bitmap& bitmap) {
-    info = RecordOf(bitmap);
+void PixelFrame::SizeFor(int width, int height) {
+    info = RecordOf(width, height);
     bytes.Redim(info);
 }
 

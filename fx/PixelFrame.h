@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <span>
+#include <utility>
 
 namespace mirelle {
 
@@ -25,8 +26,8 @@ struct BitmapRecord {
 };
 static_assert(sizeof(BitmapRecord) == 24);
 
-// Raises error 6 when a row has more bytes than 32 bits count.
-BitmapRecord RecordOf(const Bitmap& bitmap);
+// Of a bitmap of that size. Raises error 6 when a row has more bytes than 32 bits count.
+BitmapRecord RecordOf(int width, int height);
 
 class PixelArray {
 public:
@@ -38,25 +39,31 @@ public:
 
     // Makes the array anew, all bytes 0, for the bits of a record. Raises error 11 for a record of no width
     // and 9 for one of no height or of other than 32 bits a pixel; the array keeps what it was then.
+    // The bytes' memory is taken when they are first asked for (error 7 where it can't be had): sizing the
+    // arrays for a large box that no effect ever works on costs nothing.
     void Redim(const BitmapRecord& record);
 
-    int Width() const { return pixels_.Width(); }
-    int Height() const { return pixels_.Height(); }
+    int Width() const { return width_; }
+    int Height() const { return height_; }
+    bool IsEmpty() const { return width_ == 0; }
 
     // One byte. Raises error 9 beyond a bound.
     std::uint8_t& At(int channel, int x, int y);
     std::uint8_t At(int channel, int x, int y) const;
 
     // The elements of one y, and all of them; y in 0..Height()-1, unchecked.
-    std::span<Pixel> Row(int y) { return pixels_.Row(y); }
-    std::span<const Pixel> Row(int y) const { return pixels_.Row(y); }
-    std::span<Pixel> Pixels() { return pixels_.Pixels(); }
-    std::span<const Pixel> Pixels() const { return pixels_.Pixels(); }
+    std::span<Pixel> Row(int y) { return Bytes().Row(y); }
+    std::span<const Pixel> Row(int y) const { return std::as_const(Bytes()).Row(y); }
+    std::span<Pixel> Pixels() { return Bytes().Pixels(); }
+    std::span<const Pixel> Pixels() const { return std::as_const(Bytes()).Pixels(); }
 
 private:
     void CheckSubscripts(int channel, int x, int y) const;
+    Bitmap& Bytes() const;
 
-    Bitmap pixels_;
+    int width_ = 0;
+    int height_ = 0;
+    mutable Bitmap pixels_; // empty until it is needed
 };
 
 // A record and the array that was sized by it.
@@ -65,7 +72,7 @@ struct PixelFrame {
     PixelArray bytes;
 
     // GetObject, and the array made anew: one half of SizeFXBits. Raises as PixelArray::Redim.
-    void SizeFor(const Bitmap& bitmap);
+    void SizeFor(int width, int height);
     // bmWidthBytes x bmHeight, the bytes that GetBitmapBits and SetBitmapBits are asked for.
     std::int64_t ByteCount() const { return std::int64_t{info.bmWidthBytes} * info.bmHeight; }
 };

@@ -5,8 +5,9 @@
 namespace mirelle {
 
 void SizeFXBits(FrmPicX& form) {
-    form.FXSource.SizeFor(form.Pic1.Image().Pixels());
-    form.FXDest.SizeFor(form.PicImage.Image().Pixels());
+    // An image has the size of its box; asking for the image itself would draw it.
+    form.FXSource.SizeFor(form.Pic1.PixelWidth(), form.Pic1.PixelHeight());
+    form.FXDest.SizeFor(form.PicImage.PixelWidth(), form.PicImage.PixelHeight());
 }
 
 } // namespace mirelle

@@ -10,12 +10,12 @@ namespace {
 
 PixelFrame FrameFor(int width, int height) {
     PixelFrame frame;
-    frame.SizeFor(Bitmap(width, height));
+    frame.SizeFor(width, height);
     return frame;
 }
 
 TEST(PixelFrameTest, TheRecordTellsOf32BitsAPixelInOnePlane) {
-    const BitmapRecord record = RecordOf(Bitmap(7, 3));
+    const BitmapRecord record = RecordOf(7, 3);
     EXPECT_EQ(record.bmType, 0);
     EXPECT_EQ(record.bmWidth, 7);
     EXPECT_EQ(record.bmHeight, 3);
@@ -29,7 +29,7 @@ TEST(PixelFrameTest, SizingMakesAnArrayOfZerosWithTheBoundsOfThePicture) {
     PixelFrame frame = FrameFor(3, 2);
     EXPECT_EQ(frame.bytes.At(3, 2, 1), 0);
     frame.bytes.At(0, 0, 0) = 9;
-    frame.SizeFor(Bitmap(2, 3));
+    frame.SizeFor(2, 3);
     EXPECT_EQ(frame.bytes.At(0, 0, 0), 0);
     EXPECT_EQ(frame.bytes.At(3, 1, 2), 0);
 }
@@ -53,9 +53,16 @@ TEST(PixelFrameTest, AnArrayThatWasNeverSizedHasNoElements) {
 
 TEST(PixelFrameTest, APictureOfNoSizeCanNotSizeAnArray) {
     PixelFrame frame = FrameFor(3, 2);
-    EXPECT_EQ(ErrorOf([&] { frame.SizeFor(Bitmap()); }), ErrorNumber::DivisionByZero);
-    EXPECT_EQ(ErrorOf([&] { frame.SizeFor(Bitmap(3, 0)); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(ErrorOf([&] { frame.SizeFor(0, 0); }), ErrorNumber::DivisionByZero);
+    EXPECT_EQ(ErrorOf([&] { frame.SizeFor(3, 0); }), ErrorNumber::SubscriptOutOfRange);
     EXPECT_EQ(frame.bytes.At(0, 2, 1), 0);
+}
+
+TEST(PixelFrameTest, SizingTakesNoMemoryUntilTheBytesAreAskedFor) {
+    PixelFrame frame = FrameFor(60000, 60000);
+    EXPECT_EQ(frame.ByteCount(), std::int64_t{60000} * 4 * 60000);
+    EXPECT_EQ(ErrorOf([&] { frame.bytes.At(0, 0, 0); }), ErrorNumber::OutOfMemory);
+    EXPECT_EQ(ErrorOf([&] { frame.bytes.At(0, 0, 60000); }), ErrorNumber::SubscriptOutOfRange);
 }
 
 TEST(PixelFrameTest, BitsAreBlueGreenRedFourthFromTheTop) {

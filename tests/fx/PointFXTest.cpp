@@ -20,13 +20,13 @@ class PointFXTest : public testing::TestWithParam<NamedPointSet> {
 protected:
     static PixelFrame FrameOf(const Bitmap& bitmap) {
         PixelFrame frame;
-        frame.SizeFor(bitmap);
+        frame.SizeFor(bitmap.Width(), bitmap.Height());
         GetBitmapBits(bitmap, frame);
         return frame;
     }
     static PixelFrame EmptyFrame(int width, int height) {
         PixelFrame frame;
-        frame.SizeFor(Bitmap(width, height));
+        frame.SizeFor(width, height);
         return frame;
     }
     static Bitmap BitmapOf(const PixelFrame& frame) {
@@ -199,7 +199,7 @@ TEST_P(PointFXTest, FramesThatWereNeverSizedHaveNothingToDo) {
 
 TEST_P(PointFXTest, ARecordBeyondTheSourceArrayEndsTheEffectWhereTheArrayEnds) {
     PixelFrame source = FrameOf(Bitmap(2, 2, Grey(7)));
-    source.info = RecordOf(Bitmap(2, 3));
+    source.info = RecordOf(2, 3);
     PixelFrame destination = EmptyFrame(2, 3);
     EXPECT_EQ(ErrorOf([&] { Run(&PointSet::Copy, source, destination); }), ErrorNumber::SubscriptOutOfRange);
     EXPECT_EQ(BitmapOf(destination), WithoutFourth(GreyRows({{7, 7}, {7, 7}, {0, 0}})));
