@@ -19,6 +19,6 @@ namespace mirelle {
 void StretchHalftone(const Bitmap& source, const PixelArea& from, Bitmap& target, const PixelArea& to);
 
 // Sums of bytes weighted by areas up to this length on a side fit in 64 bits.
-constexpr int kLongestStretch = 1 << 26;
+constexpr int kLongestStretch = 1 << 27;
 
 } // namespace mirelle
