@@ -1,0 +1,158 @@
+#include "codecs/cJPEG.h"
+
+#include "codecs/jpeg/AnsiText.h"
+#include "codecs/jpeg/DataPlanes.h"
+#include "codecs/jpeg/Errors.h"
+#include "codecs/jpeg/Markers.h"
+#include "codecs/jpeg/OptimizeTables.h"
+#include "codecs/jpeg/Quantiser.h"
+#include "codecs/jpeg/Scans.h"
+#include "codecs/jpeg/SurfacePlanes.h"
+#include "codecs/jpeg/Tables.h"
+#include "codecs/jpeg/Transform.h"
+#include "forms/Numbers.h"
+
+#include <limits>
+#include <optional>
+
+namespace mirelle {
+namespace {
+
+constexpr std::size_t kLongestComment = 65535;
+constexpr std::int32_t kSamplePrecision = 8;
+constexpr int kPixelBytes = 3;
+
+// Room beside the estimate of the scans: the segments, and what the estimate falls short.
+constexpr int kRoomForSegments = 1000;
+
+// The working bitmap of a surface's picture has 24 bits a pixel, and its bytes are counted in 32 bits.
+bool CanBeMade(int w8, int h8) {
+    if (w8 < 1 || h8 < 1) return false;
+    return std::int64_t{w8} * kPixelBytes * h8 <= std::numeric_limits<std::int32_t>::max();
+}
+
+std::optional<jpeg::SurfacePlanes> MakePlanes(const Bitmap& surface, const PixelArea& picture, int w8, int h8,
+                                              const std::vector<jpeg::PlaneSize>& sizes) {
+    try {
+        return jpeg::SurfacePlanes(surface, picture, w8, h8, sizes);
+    } catch (const RunTimeError&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+cJPEG::cJPEG() {
+    SetSamplingFrequencies(2, 2, 1, 1, 1, 1);
+    Quality(jpeg::kDefaultQuality);
+}
+
+void cJPEG::Quality(int value) {
+    QualityValue_ = value < 1 || value > 100 ? jpeg::kDefaultQuality : value;
+    const int scale = jpeg::ScaleOfQuality(QualityValue_);
+    jpeg::ScaleBaseTable(QuantTables_[0], jpeg::QLuminance, scale, frame_.P);
+    jpeg::ScaleBaseTable(QuantTables_[1], jpeg::QChrominance, scale, frame_.P);
+    for (jpeg::QuantTable& table : QuantTables_)
+        jpeg::ScaleQuantTable(table, frame_.P);
+}
+
+void cJPEG::SetSamplingFrequencies(int H1, int V1, int H2, int V2, int H3, int V3) {
+    jpeg::SetSamplingFrequencies(frame_, H1, V1, H2, V2, H3, V3);
+}
+
+void cJPEG::Comment(const std::string& value) {
+    std::string bytes = jpeg::AnsiBytes(value);
+    if (bytes.size() > kLongestComment) jpeg::RaiseCodecFailure(jpeg::kIllegalCommentLength);
+    CommentText_ = value;
+    commentBytes_ = std::move(bytes);
+}
+
+void cJPEG::BeginPicture(int width, int height) {
+    frame_.P = kSamplePrecision;
+    frame_.X = width;
+    frame_.Y = height;
+    for (jpeg::Component& component : frame_.Components) {
+        component.Coefficients = {};
+        component.NonZero = {};
+    }
+}
+
+std::vector<jpeg::PlaneSize> cJPEG::PlaneSizes(int w8, int h8) const {
+    std::vector<jpeg::PlaneSize> sizes;
+    for (const jpeg::Component& component : frame_.Components) {
+        sizes.push_back(jpeg::PlaneSizeOf(component, frame_, w8, h8));
+    }
+    return sizes;
+}
+
+template <class Planes>
+void cJPEG::TransformPlanes(Planes& planes, const std::vector<jpeg::PlaneSize>& sizes) {
+    for (std::size_t i = 0; i < sizes.size(); ++i) {
+        jpeg::Component& component = frame_.Components[i];
+        const jpeg::QuantTable& table = QuantTables_[static_cast<std::size_t>(component.Tqi)];
+        jpeg::TransformComponent(component, i, table, sizes[i], planes.Next());
+    }
+}
+
+int cJPEG::SampleDATA(std::span<const std::uint8_t> data, int columns, int rows, int width, int height, int x,
+                      int y) {
+    BeginPicture(width, height);
+    const int w8 = jpeg::RoundedUpTo8(width);
+    const int h8 = jpeg::RoundedUpTo8(height);
+    // The step between samples would be the quotient of two zeros.
+    if (w8 < 1 || h8 < 1) throw RunTimeError(ErrorNumber::Overflow);
+    const std::vector<jpeg::PlaneSize> sizes = PlaneSizes(w8, h8);
+    jpeg::DataPlanes planes({data, columns, rows}, {x, y, width, height}, w8, h8, sizes);
+    TransformPlanes(planes, sizes);
+    return kDone;
+}
+
+int cJPEG::SampleHDC(const Bitmap& surface, int width, int height, int x, int y) {
+    BeginPicture(width, height);
+    const int w8 = jpeg::RoundedUpTo8(width);
+    const int h8 = jpeg::RoundedUpTo8(height);
+    if (surface.IsEmpty() || !CanBeMade(w8, h8)) return kNoSurface;
+    const std::vector<jpeg::PlaneSize> sizes = PlaneSizes(w8, h8);
+    std::optional<jpeg::SurfacePlanes> planes = MakePlanes(surface, {x, y, width, height}, w8, h8, sizes);
+    if (!planes) return kNoSurface;
+    TransformPlanes(*planes, sizes);
+    return kDone;
+}
+
+int cJPEG::SaveFileJPG(const std::string& fileName, FileSystem& files) {
+    if (fileName.empty()) return kNoFileName;
+    if (files.FileExists(fileName)) return kFileExists;
+
+    const std::vector<jpeg::ScanGroup> groups = jpeg::GroupComponents(frame_);
+    jpeg::HuffmanTables tables;
+    const Long estimate = jpeg::OptimizeTables(frame_, groups, tables);
+    // The last index of the buffer, so that it holds one byte more.
+    const Long last =
+        estimate * Long(2) + Long(kRoomForSegments) + Long(static_cast<int>(commentBytes_.size()));
+    jpeg::OutBuffer out(static_cast<std::size_t>(last.Value()) + 1);
+    WriteFile(out, groups, tables);
+    files.WriteFile(fileName, out.Written());
+    return kDone;
+}
+
+void cJPEG::WriteFile(jpeg::OutBuffer& out, const std::vector<jpeg::ScanGroup>& groups,
+                      const jpeg::HuffmanTables& tables) const {
+    using jpeg::Marker;
+    using jpeg::TableClass;
+    const std::int32_t tableCount = frame_.Nf() > 1 ? 2 : 1;
+    jpeg::WriteMarker(out, Marker::SOI);
+    jpeg::WriteAPP0(out);
+    jpeg::WriteCOM(out, commentBytes_);
+    for (std::int32_t t = 0; t < tableCount; ++t) {
+        jpeg::WriteDQT(out, QuantTables_[static_cast<std::size_t>(t)], t, frame_.P);
+    }
+    jpeg::WriteSOF(out, frame_);
+    for (std::int32_t t = 0; t < tableCount; ++t) {
+        jpeg::WriteDHT(out, tables.DcTables[static_cast<std::size_t>(t)], TableClass::Dc, t);
+        jpeg::WriteDHT(out, tables.AcTables[static_cast<std::size_t>(t)], TableClass::Ac, t);
+    }
+    jpeg::WriteScans(out, frame_, groups, tables);
+    jpeg::WriteMarker(out, Marker::EOI);
+}
+
+} // namespace mirelle

@@ -1,0 +1,41 @@
+// A block of memory whose elements hold nothing until they are written: coefficients and file buffers run to
+// many megabytes, and every one of them is written before it is read.
+#pragma once
+
+#include "forms/RunTimeError.h"
+
+#include <cstddef>
+#include <memory>
+#include <new>
+#include <span>
+
+namespace mirelle::jpeg {
+
+template <class Element>
+class Array {
+public:
+    Array() = default;
+    // Raises error 7 when the memory can't be had.
+    explicit Array(std::size_t size) : size_(size) {
+        try {
+            elements_ = std::make_unique_for_overwrite<Element[]>(size);
+        } catch (const std::bad_alloc&) {
+            throw RunTimeError(ErrorNumber::OutOfMemory);
+        }
+    }
+
+    std::size_t Size() const { return size_; }
+    bool IsEmpty() const { return size_ == 0; }
+    Element* Data() { return elements_.get(); }
+    const Element* Data() const { return elements_.get(); }
+    Element& operator[](std::size_t index) { return elements_[index]; }
+    const Element& operator[](std::size_t index) const { return elements_[index]; }
+    operator std::span<Element>() { return {elements_.get(), size_}; }
+    operator std::span<const Element>() const { return {elements_.get(), size_}; }
+
+private:
+    std::unique_ptr<Element[]> elements_;
+    std::size_t size_ = 0;
+};
+
+} // namespace mirelle::jpeg

@@ -1,0 +1,26 @@
+// Huffman tables that are the best for given frequencies: ITU T.81, Annex K.2 and Annex C.
+#pragma once
+
+#include "codecs/jpeg/Frame.h"
+
+#include <cstdint>
+
+namespace mirelle::jpeg {
+
+// Number of significant bits of |value|; 0 for 0. |value| lies below 65536.
+int BitLength(std::int32_t value);
+
+// Sets Bits and HuffVal for the frequencies of the symbols 0..255, with no code longer than 16 bits and none
+// that is all ones: the code of a reserved symbol is made with the others and then taken away. Leaves the
+// frequencies all zero. Raises error 6 where a sum of frequencies leaves 32 bits.
+void OptimizeHuffman(HuffmanTable& table, Frequencies& frequency);
+
+// Sets Size, Mask and Code from Bits and HuffVal. Raises "Bad Huffman Table" for more than 256 codes, for
+// none, for a symbol above the largest or twice there, and for codes that a length has no room for.
+void ExpandHuffman(HuffmanTable& table, int largestSymbol);
+
+// How many bytes a scan with these frequencies takes, roughly: the bits that follow a symbol are counted by
+// the symbol's own bit length. Raises error 6 where the number of bits leaves 32 bits.
+std::int32_t CountScanBytes(const HuffmanTable& table, const Frequencies& frequency);
+
+} // namespace mirelle::jpeg
