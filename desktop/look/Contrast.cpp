@@ -30,4 +30,11 @@ QRgb InkOn(QRgb ground) {
     return ContrastRatio(kText, ground) >= ContrastRatio(kTextOnAccent, ground) ? kText : kTextOnAccent;
 }
 
+QRgb RingOn(QRgb ground) {
+    for (const QRgb ring : {kAccent, kAccentText, kTextStrong}) {
+        if (ContrastRatio(ring, ground) >= kReadableShape) return ring;
+    }
+    return kTextOnAccent;
+}
+
 } // namespace mirelle::look

@@ -18,4 +18,7 @@ double ContrastRatio(QRgb one, QRgb other);
 // The one of the two text inks, light and dark, that reads better on `ground`.
 QRgb InkOn(QRgb ground);
 
+// The colour of a focus ring on `ground`: the accent, or an ink where the accent would be lost on it.
+QRgb RingOn(QRgb ground);
+
 } // namespace mirelle::look

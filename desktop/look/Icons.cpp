@@ -1,7 +1,7 @@
 #include "desktop/look/Icons.h"
 
-#include <cmath>
 #include <map>
+#include <optional>
 
 #include <QFile>
 #include <QIconEngine>
@@ -9,6 +9,7 @@
 #include <QPixmap>
 
 #include "desktop/look/PixelFit.h"
+#include "desktop/look/Surface.h"
 #include "desktop/look/Tokens.h"
 
 namespace mirelle::look {
@@ -17,10 +18,11 @@ namespace {
 
 class IconEngine : public QIconEngine {
 public:
-    explicit IconEngine(const SvgDrawing& drawing) : drawing_(&drawing) {}
+    IconEngine(const SvgDrawing& drawing, std::optional<QRgb> ink) : drawing_(&drawing), ink_(ink) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
-        PaintFitted(*painter, *drawing_, rect, IconInk(mode, state));
+        const bool own = ink_ && mode != QIcon::Disabled;
+        PaintFitted(*painter, *drawing_, rect, own ? QColor(*ink_) : IconInk(mode, state));
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
@@ -37,6 +39,7 @@ public:
 
 private:
     const SvgDrawing* drawing_; // lives as long as the program
+    std::optional<QRgb> ink_;
 };
 
 SvgDrawing Load(QStringView name) {
@@ -44,18 +47,6 @@ SvgDrawing Load(QStringView name) {
     if (!file.open(QIODevice::ReadOnly)) return {};
     return ReadSvg(file.readAll()).value_or(SvgDrawing());
 }
-
-// Scale and shift from the painter's units to device pixels; turned painters are not met with here.
-struct DevicePlace {
-    explicit DevicePlace(const QPainter& painter) : transform(painter.deviceTransform()) {}
-    double Scale() const { return transform.m11(); }
-    QPointF Snapped(QPointF point) const {
-        const QPointF device = transform.map(point);
-        const QPointF whole(std::round(device.x()), std::round(device.y()));
-        return point + (whole - device) / Scale();
-    }
-    QTransform transform;
-};
 
 } // namespace
 
@@ -67,12 +58,16 @@ const SvgDrawing& IconDrawing(QStringView name) {
 }
 
 QIcon MakeIcon(QStringView name) {
-    return QIcon(new IconEngine(IconDrawing(name)));
+    return QIcon(new IconEngine(IconDrawing(name), std::nullopt));
+}
+
+QIcon MakeIcon(QStringView name, QRgb ink) {
+    return QIcon(new IconEngine(IconDrawing(name), ink));
 }
 
 void PaintFitted(QPainter& painter, const SvgDrawing& drawing, const QRectF& target, const QColor& ink) {
-    const DevicePlace device(painter);
-    if (drawing.viewBox.isEmpty() || device.Scale() <= 0) return;
+    const DeviceGrid device(painter);
+    if (drawing.viewBox.isEmpty()) return;
     const double scale = target.width() * device.Scale() / drawing.viewBox.width();
     const SvgDrawing fitted = FittedToPixels(drawing, scale);
     PaintSvg(painter, fitted,

@@ -15,6 +15,8 @@ const SvgDrawing& IconDrawing(QStringView name);
 // An icon of that drawing: text ink at rest, stronger under the pointer, faint when disabled, the accent as
 // ink while its button is switched on.
 QIcon MakeIcon(QStringView name);
+// The same with `ink` at rest, under the pointer and while switched on.
+QIcon MakeIcon(QStringView name, QRgb ink);
 
 // Paints a drawing over `target` (the painter's units), moved and fitted to the device's pixels.
 void PaintFitted(QPainter& painter, const SvgDrawing& drawing, const QRectF& target, const QColor& ink);

@@ -25,6 +25,9 @@ inline constexpr QRgb kCardEdge = 0xff1a1a1a;
 inline constexpr QRgb kControl = 0xff3a3a3a;
 inline constexpr QRgb kField = 0xff202020; // what one types or chooses in: text boxes, lists, grooves
 inline constexpr QRgb kFieldEdge = 0xff4a4a4a;
+inline constexpr QRgb kMarkEdge = 0xff767676; // around empty check boxes and hovered fields
+inline constexpr QRgb kScrollHandleColour = 0xff5a5a5a;
+inline constexpr QRgb kScrollHandleHovered = 0xff7c7c7c;
 
 // Inks.
 inline constexpr QRgb kText = 0xffe6e6e6;
@@ -34,7 +37,8 @@ inline constexpr QRgb kTextStrong = 0xffffffff;
 inline constexpr QRgb kTextOnAccent = 0xff14142e;
 
 // What calls for attention.
-inline constexpr QRgb kAccent = 0xff8080ff;     // focus, ticks, progress
+inline constexpr QRgb kAccent = 0xff8080ff; // focus, ticks, progress
+inline constexpr QRgb kAccentPressed = 0xff6c6cd9;
 inline constexpr QRgb kAccentText = 0xffb4b4ff; // the accent as an ink
 inline constexpr QRgb kSelection = 0xff4a4a90;  // selected rows and text, the default button
 inline constexpr QRgb kSelectionIdle = 0xff46464f;
@@ -45,7 +49,7 @@ constexpr QRgb Hovered(QRgb ground) {
     return Mixed(ground, kTextStrong, 7);
 }
 constexpr QRgb Pressed(QRgb ground) {
-    return Mixed(ground, kCardEdge, 45);
+    return Mixed(ground, kCardEdge, 70);
 }
 constexpr QRgb Switched(QRgb ground) {
     return Mixed(ground, kAccent, 22);
@@ -76,13 +80,19 @@ inline constexpr int kIconButton = 28; // both sides
 inline constexpr int kIcon = 20;       // both sides; the grid of the drawings
 inline constexpr qreal kIconStroke = 1.5;
 inline constexpr int kTick = 16; // check boxes and radio buttons
+inline constexpr qreal kTickStroke = 2;
+inline constexpr int kRadioDot = 6;
+inline constexpr int kTickInset = 3;  // room for the focus ring before a check box
+inline constexpr int kTickRow = 20;   // the height of a check box or radio button with its text
+inline constexpr int kFieldInset = 6; // between the edge of a text box and its text
 inline constexpr int kRowHeight = 22;
 inline constexpr int kScrollBar = 10;
 inline constexpr int kScrollHandle = 6;
 inline constexpr int kScrollHandleShortest = 24;
 inline constexpr int kSliderGroove = 4;
 inline constexpr int kSliderHandle = 12;
-inline constexpr int kArrowWidth = 20; // of a combo box or of spin arrows
+inline constexpr int kArrowWidth = 20;   // of a combo box or of spin arrows
+inline constexpr int kDialogButton = 72; // the least width of a dialog's buttons
 inline constexpr int kProgressLine = 3;
 inline constexpr int kTipWidth = 320; // where the text of a tool tip breaks
 

@@ -5,6 +5,9 @@ class QWidget;
 
 namespace mirelle::look {
 
-QWidget* MakeIconsPage();
+QWidget* MakeControlsPage(); // every control in every state
+QWidget* MakeIconsPage();    // every drawing at its own size and twice that
+QWidget* MakePanelPage();    // cards over a picture, as the window has them
+QWidget* MakeDialogsPage();  // message box, menu, tool tip
 
 } // namespace mirelle::look

@@ -1,0 +1,35 @@
+#include "desktop/look/Typeface.h"
+
+#include <QFile>
+#include <QFontDatabase>
+#include <QPalette>
+#include <QWidget>
+
+#include "desktop/look/Tokens.h"
+
+namespace mirelle::look {
+
+QFont BodyFont() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    if (QFontDatabase::families().isEmpty()) {
+        const int id = QFontDatabase::addApplicationFont(QStringLiteral(":/look/fonts/Fallback.ttf"));
+        const QStringList families = QFontDatabase::applicationFontFamilies(id);
+        if (!families.isEmpty()) font.setFamily(families.front());
+    }
+    font.setPixelSize(kTypeSize);
+    return font;
+}
+
+void SetTextRank(QWidget& widget, TextRank rank) {
+    const bool note = rank == TextRank::Note;
+    QFont font = widget.font();
+    font.setPixelSize(note ? kTypeSizeSmall : kTypeSize);
+    widget.setFont(font);
+    QPalette palette = widget.palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::WindowText, QColor(note ? kTextQuiet : kText));
+    }
+    widget.setPalette(palette);
+}
+
+} // namespace mirelle::look
