@@ -1,8 +1,10 @@
 #include "desktop/look/ElidedLabel.h"
 
+#include <QFontMetricsF>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QtMath>
 #include <QToolTip>
 
 #include "desktop/look/Tokens.h"
@@ -32,7 +34,7 @@ QString ElidedLabel::Tip() const {
 }
 
 QSize ElidedLabel::sizeHint() const {
-    return {fontMetrics().horizontalAdvance(text_), minimumSizeHint().height()};
+    return {qCeil(QFontMetricsF(font()).horizontalAdvance(text_)), minimumSizeHint().height()};
 }
 
 QSize ElidedLabel::minimumSizeHint() const {

@@ -13,6 +13,7 @@ class SpinArrows : public QWidget {
 public:
     explicit SpinArrows(QWidget* parent = nullptr);
 
+    bool IsHeld() const { return held_ != QStyle::SC_None; }
     QSize sizeHint() const override;
 
 signals:

@@ -275,8 +275,8 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
         return {contents.width() + 2 * kFieldInset, high};
     case CT_ComboBox:
         return {contents.width() + kSpace + kArrowWidth + kSpace, high};
-    case CT_SpinBox:
-        return {contents.width() + kFieldInset + kArrowWidth, high};
+    case CT_SpinBox: // the contents are a text box with its height already
+        return {contents.width() + kFieldInset + kArrowWidth, std::max(kControlHeight, contents.height())};
     case CT_MenuItem:
         if (const auto* item = As<QStyleOptionMenuItem>(option)) return MenuItemSize(*item, contents);
         break;

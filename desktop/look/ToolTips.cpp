@@ -31,7 +31,6 @@ QString BrokenIntoLines(const QString& text, const QFont& font, int width) {
             lines.append(paragraph.mid(line.textStart(), line.textLength()).trimmed());
         }
         layout.endLayout();
-        if (paragraph.isEmpty()) lines.append(QString());
     }
     return lines.join(u'\n');
 }

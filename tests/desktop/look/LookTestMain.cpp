@@ -2,9 +2,12 @@
 #include <gmock/gmock.h>
 #include <QApplication>
 
+#include "desktop/look/Look.h"
+
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleMock(&argc, argv);
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    mirelle::look::ApplyLook(application);
     return RUN_ALL_TESTS();
 }
