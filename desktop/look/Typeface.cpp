@@ -1,7 +1,7 @@
 #include "desktop/look/Typeface.h"
 
-#include <QFile>
 #include <QFontDatabase>
+#include <QFontMetrics>
 #include <QPalette>
 #include <QWidget>
 
@@ -11,7 +11,9 @@ namespace mirelle::look {
 
 QFont BodyFont() {
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-    if (QFontDatabase::families().isEmpty()) {
+    // The list of families is of no use here: it names generic ones, such as "Sans Serif", without any font
+    // file.
+    if (!QFontMetrics(font).inFont(u'A')) {
         const int id = QFontDatabase::addApplicationFont(QStringLiteral(":/look/fonts/Fallback.ttf"));
         const QStringList families = QFontDatabase::applicationFontFamilies(id);
         if (!families.isEmpty()) font.setFamily(families.front());

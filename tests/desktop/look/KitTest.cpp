@@ -109,14 +109,6 @@ TEST(SectionCaption, IsSmallAndQuiet) {
     EXPECT_EQ(caption.palette().color(QPalette::WindowText).rgb(), kTextQuiet);
 }
 
-TEST(TextRank, GoesBackToTheBody) {
-    QWidget widget;
-    SetTextRank(widget, TextRank::Note);
-    SetTextRank(widget, TextRank::Body);
-    EXPECT_EQ(widget.font().pixelSize(), kTypeSize);
-    EXPECT_EQ(widget.palette().color(QPalette::WindowText).rgb(), kText);
-}
-
 class ElidedLabelTest : public testing::Test {
 protected:
     const QString path_ = QStringLiteral("/home/somebody/Support/Materials/Architecture/Arch_0012.jpg");
