@@ -49,7 +49,10 @@ void FrmPicX::Load() {
     bool topmost = true;
     SetTopMostWindow(topmost);
     // The window's twips go into the box's pixels as they are.
-    PicImage.Move(Left, Top, std::max(Width - 100.0F, 0.0F), Height);
+    PicImage.Left = Left();
+    PicImage.Top = Top();
+    ResumeNext([this] { PicImage.Width = Width - 100; });
+    PicImage.Height = Height();
     cmdOpen2Combo.Click();
     if (textProfileName.ListCount() == 0) {
         for (const PrefixRow& row : kPrefixes)
