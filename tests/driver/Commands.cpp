@@ -3,22 +3,30 @@
 #include "tests/driver/Errors.h"
 #include "tests/driver/Json.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace mirelle::driver {
 
-const Command& CommandOf(Words words) {
-    using Table = std::span<const Command> (*)();
-    for (const Table table :
-         {ControlCommands, WindowCommands, DesktopCommands, PictureCommands, TimeCommands}) {
-        for (const Command& command : table()) {
-            if (words.front() != command.name) continue;
-            const std::size_t count = words.size() - 1;
-            if (count < command.least || count > command.most) {
-                throw UsageError(std::string(command.name) + " " + command.arguments);
-            }
-            return command;
-        }
+const Command& CommandIn(std::span<const Command> table, Words words) {
+    const auto found = std::ranges::find(table, words.front(), &Command::name);
+    if (found == table.end()) throw UsageError("there is no " + JsonString(words.front()));
+    const std::size_t count = words.size() - 1;
+    if (count < found->least || count > found->most) {
+        throw UsageError(std::string(found->name) + " " + found->arguments);
     }
-    throw UsageError("there is no command " + JsonString(words.front()));
+    return *found;
+}
+
+const Command& CommandOf(Words words) {
+    static const std::vector<Command> kAll = [] {
+        std::vector<Command> all;
+        for (const auto table :
+             {CallCommands, ControlCommands, DesktopCommands, PictureCommands, TimeCommands, WindowCommands})
+            std::ranges::copy(table(), std::back_inserter(all));
+        return all;
+    }();
+    return CommandIn(kAll, words);
 }
 
 std::string Run(Session& session, Words words) {

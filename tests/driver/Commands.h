@@ -24,13 +24,16 @@ struct Command {
     std::string (*run)(Session& session, Words arguments);
 };
 
+std::span<const Command> CallCommands();
 std::span<const Command> ControlCommands();
 std::span<const Command> WindowCommands();
 std::span<const Command> DesktopCommands();
 std::span<const Command> PictureCommands();
 std::span<const Command> TimeCommands();
 
-// The command of that name. Throws UsageError where there is none, or it does not take so many words.
+// The command whose name is the first word. Throws UsageError where there is none, or it does not take so
+// many words. CommandIn looks in one table, CommandOf in all.
+const Command& CommandIn(std::span<const Command> table, Words words);
 const Command& CommandOf(Words words);
 // Runs a command. Throws UsageError and CommandError, and lets run-time errors and the program's end through.
 std::string Run(Session& session, Words words);
