@@ -78,11 +78,13 @@ public:
     Selection Selected(int row) { return {*this, row}; }
 
     void UserClick() override; // a click on the current row
+    // Runs Click by code, as from inside the current row's own click: the handler may select that row again
+    // without being run once more.
+    void RunClick();
 
 private:
     void ReadNames();
     void Select(int row);
-    void RunClick();
 
     FileSystem& files_;
     std::string path_;

@@ -82,8 +82,7 @@ private:
 class Picture {
 public:
     Picture() = default;
-    explicit Picture(Bitmap&& bitmap) : bitmap_(std::make_shared<const Bitmap>(std::move(bitmap))) {}
-    explicit Picture(std::shared_ptr<const Bitmap> bitmap) : bitmap_(std::move(bitmap)) {}
+    explicit Picture(Bitmap&& bitmap) : bitmap_(std::make_shared<Bitmap>(std::move(bitmap))) {}
 
     bool IsEmpty() const { return bitmap_ == nullptr; }
     int Width() const { return bitmap_ ? bitmap_->Width() : 0; }
@@ -95,7 +94,12 @@ public:
     bool SharesPixelsWith(const Picture& other) const { return bitmap_ == other.bitmap_; }
 
 private:
-    std::shared_ptr<const Bitmap> bitmap_;
+    // A surface shows and hands out its image as a picture; it writes only where nobody else holds the
+    // bitmap.
+    friend class Surface;
+    explicit Picture(std::shared_ptr<Bitmap> bitmap) : bitmap_(std::move(bitmap)) {}
+
+    std::shared_ptr<Bitmap> bitmap_;
 };
 
 } // namespace mirelle

@@ -64,6 +64,11 @@ void PictureBox::StretchPicture(const mirelle::Picture& source) {
     TellWatchers();
 }
 
+void PictureBox::ShowImage(const mirelle::Picture& image) {
+    surface_.Show(image);
+    TellWatchers();
+}
+
 Bitmap& PictureBox::Paint() {
     TellWatchers();
     return surface_.Paint();

@@ -67,6 +67,8 @@ public:
     // PaintPicture without a source area: the whole source over the whole box, stretched where their sizes
     // differ. An empty source raises error 481.
     void StretchPicture(const mirelle::Picture& source);
+    // Paints a picture from the top-left corner on; one of the box's own size is shared, not copied.
+    void ShowImage(const mirelle::Picture& image);
     // The image to paint in, pixel by pixel.
     Bitmap& Paint();
 

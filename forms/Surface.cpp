@@ -62,7 +62,7 @@ Picture Surface::Image() const {
     if (!image_ && picture_.Width() == width_ && picture_.Height() == height_ && !picture_.IsEmpty())
         return picture_;
     if (!image_) image_ = Compose();
-    return Picture(std::shared_ptr<const Bitmap>(image_));
+    return Picture(image_);
 }
 
 Bitmap& Surface::Paint() {
@@ -73,6 +73,15 @@ Bitmap& Surface::Paint() {
     }
     painted_ = true;
     return *image_;
+}
+
+void Surface::Show(const Picture& image) {
+    if (image.Width() == width_ && image.Height() == height_ && !image.IsEmpty()) {
+        image_ = image.bitmap_;
+        painted_ = true;
+    } else {
+        Copy(image.Pixels(), WholeOf(image.Pixels()), 0, 0);
+    }
 }
 
 Color Surface::Point(int x, int y) const {

@@ -38,6 +38,8 @@ public:
 
     // Copies the source's pixels of `from` to (left, top), clipped to what exists on both sides.
     void Copy(const Bitmap& source, PixelArea from, int left, int top);
+    // Paints a picture from the top-left corner on, as Copy does; one of the surface's own size is shared.
+    void Show(const Picture& image);
     // Paints the whole picture over the whole surface, in halftone mode.
     void Stretch(const Picture& picture);
 

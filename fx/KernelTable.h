@@ -17,7 +17,7 @@ struct KernelButton {
     bool takesUndoCopy = true;
 };
 
-constexpr std::array kKernelButtons{
+inline constexpr std::array kKernelButtons{
     KernelButton{"cmdBlur1", "Blur", &KernelSet::FXBlur},
     KernelButton{"cmdBlur2", "Blur More", &KernelSet::FXBlurMore},
     KernelButton{"cmdNoRed", "No Red", &KernelSet::FXNoRed},
@@ -49,6 +49,6 @@ constexpr std::array kKernelButtons{
 };
 
 // What the vertical smudger runs at each pass; no button reaches it, so it has no tool tip.
-constexpr KernelButton kBlurVertical{"BlurVertical", "", &KernelSet::FXBlurMoreVert};
+inline constexpr KernelButton kBlurVertical{"BlurVertical", "", &KernelSet::FXBlurMoreVert};
 
 } // namespace mirelle

@@ -21,7 +21,7 @@ constexpr PointArguments Swap(int red, int green, int blue) {
     return {.swap = {blue, green, red}};
 }
 
-constexpr std::array kPointButtons{
+inline constexpr std::array kPointButtons{
     PointButton{"cmdNegativeX", "Invert", &PointSet::Invert},
     PointButton{"cmdFlipVert", "Flip Vertical", &PointSet::FlipVertical},
     PointButton{"cmdFlipHoriz", "Flip Horizontal", &PointSet::FlipHorizontal},

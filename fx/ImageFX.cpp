@@ -1,7 +1,0 @@
-#include "fx/ImageFX.h"
-
-namespace mirelle {
-
-ImageFX::ImageFX(FrmPicX&) {}
-
-} // namespace mirelle
