@@ -165,6 +165,14 @@ TEST_F(FilePreviewTest, PixelArraysAreSizedForThePicture) {
     }
 }
 
+TEST_F(FilePreviewTest, PixelArraysOfAnEmptyCanvasTakeTheSizeOfItsBox) {
+    form.ckOnly.Value = kChecked;
+    form.PicImage.Move(0, 0, 40000, 30000);
+    program.ClickNewPicture("wall.jpg");
+    EXPECT_EQ(form.FXDest.info.bmWidth, 40000);
+    EXPECT_EQ(form.FXDest.info.bmHeight, 30000);
+}
+
 TEST_F(FilePreviewTest, FormAsCanvasTakesTheFormsImage) {
     const Picture former = program.ClickNewPicture("a.jpg");
     form.ckUseFormCanvas.Value = kChecked;
