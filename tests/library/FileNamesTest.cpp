@@ -1,4 +1,5 @@
 // File names of all kinds, through listing, click and the list of the SuperBatch.
+#include "tests/library/FileNameKinds.h"
 #include "tests/library/LibraryProgram.h"
 
 #include <gmock/gmock.h>
@@ -7,16 +8,7 @@
 namespace mirelle::test {
 namespace {
 
-struct NameRow {
-    const char* kind;
-    std::string stem;
-};
-
-void PrintTo(const NameRow& row, std::ostream* out) {
-    *out << row.kind;
-}
-
-class FileNameTest : public ::testing::TestWithParam<NameRow> {
+class FileNameTest : public ::testing::TestWithParam<FileNameKind> {
 protected:
     FileNameTest() : name(GetParam().stem + ".jpg") {
         picture = program.AddPicture(kArt, name);
@@ -44,19 +36,8 @@ TEST_P(FileNameTest, IsGatheredOnce) {
     EXPECT_THAT(form.List2.Rows(), ::testing::ElementsAre(kArt + '\\' + name));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Names, FileNameTest,
-    ::testing::Values(NameRow{"Blanks", "red  brick wall"}, NameRow{"BlankInFront", " brick"},
-                      NameRow{"Quotes", "\"brick\" 'n' wall"}, NameRow{"Ampersand", "brick & wall"},
-                      NameRow{"Percent", "100% brick %20"}, NameRow{"Keystrokes", "{ENTER}+^~(brick)[1]"},
-                      NameRow{"Umlauts", "Ziegel_\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x9F"},
-                      NameRow{"Chinese", "\xE7\xA0\x96\xE5\xA2\x99"},
-                      NameRow{"BeyondTheBasicPlane", "\xF0\x9F\xA7\xB1"},
-                      NameRow{"CombiningMark", "e\xCC\x81t\xC3\xA9"},
-                      NameRow{"InvalidUtf8", "bri\xFF\xC3(ck\x80"},
-                      NameRow{"LongName", std::string(246, 'x')}, NameRow{"ControlCharacter", "bri\tck\x01"},
-                      NameRow{"OnlyUnderscores", "___"}, NameRow{"NumberAlone", "12"}),
-    [](const auto& row) { return std::string(row.param.kind); });
+INSTANTIATE_TEST_SUITE_P(Names, FileNameTest, ::testing::ValuesIn(kFileNameKinds),
+                         [](const auto& row) { return std::string(row.param.kind); });
 
 // On a system that tells small letters from capitals both stand in one folder.
 class TellingFileSystem : public MemoryFileSystem {
