@@ -2,6 +2,9 @@
 #pragma once
 
 #include "app/FrmPicX.h"
+#include "app/Panels.h"
+#include "app/Splash.h"
+#include "app/UserManual.h"
 #include "bridge/Bridge.h"
 #include "canvas/Canvas.h"
 #include "fx/ImageFX.h"
@@ -11,12 +14,15 @@
 namespace mirelle {
 
 class Sampler {
-  public:
+public:
     explicit Sampler(Ports ports);
 
     FrmPicX form;
+    UserManual manual;
+    Splash splash;
 
-  private:
+private:
+    Panels panels_;
     Canvas canvas_;
     Library library_;
     Bridge bridge_;

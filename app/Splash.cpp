@@ -1,0 +1,58 @@
+#include "app/Splash.h"
+
+#include "app/FrmPicX.h"
+
+#include <array>
+#include <ctime>
+
+namespace mirelle {
+namespace {
+
+constexpr ScreenSize kSplashSize{480, 270};
+constexpr int kTickMilliseconds = 100;
+constexpr int kTicks = 11;
+
+std::string Today() {
+    const std::time_t now = std::time(nullptr);
+    std::array<char, 64> text{};
+    const std::size_t length = std::strftime(text.data(), text.size(), "%d %B %Y", std::localtime(&now));
+    return {text.data(), length};
+}
+
+} // namespace
+
+Splash::Splash(Ports ports) : Form("frmSplasholaSUNDIAL", ports.screen, kSplashSize), ports_(ports) {
+    Label1.Caption = "Click splashscreen to view";
+    Timer1.Interval = kTickMilliseconds;
+    Timer1.Timer.Connect([this] { Tick(); });
+    Click.Connect([this] { ToggleWait(); });
+    Label1.Click.Connect([this] { ToggleWait(); });
+}
+
+void Splash::Load() {
+    Caption = std::string("About ") + App::Title;
+    lblVersion.Caption = "Version " + std::to_string(App::Major) + "." + std::to_string(App::Minor) + "." +
+                         std::to_string(App::Revision);
+    const ScreenSize screen = ports_.screen.Size();
+    Top = static_cast<float>(screen.height) * kTwipsPerPixel / 2 - Height / 2;
+    Left = static_cast<float>(screen.width) * kTwipsPerPixel / 2 - Width / 2;
+    lblDate.Caption = Today();
+    Visible = true;
+}
+
+void Splash::Tick() {
+    ++ticks_;
+    ports_.pump.DoEvents(PumpSite::Handler);
+    if (ticks_ != kTicks) return;
+    Timer1.Enabled = false;
+    Visible = false;
+    Finished();
+}
+
+void Splash::ToggleWait() {
+    const bool hold = Timer1.Enabled;
+    Timer1.Enabled = !hold;
+    Label1.Caption = hold ? "Click splashscreen to proceed" : "Click splashscreen to view";
+}
+
+} // namespace mirelle
