@@ -1,0 +1,98 @@
+#include "desktop/window/FileSection.h"
+
+#include "desktop/binding/RowsView.h"
+#include "desktop/binding/Updater.h"
+#include "desktop/canvas/FittedView.h"
+#include "desktop/look/ElidedLabel.h"
+#include "desktop/look/IconButton.h"
+#include "desktop/look/IconTable.h"
+#include "desktop/look/Tokens.h"
+#include "desktop/window/FolderRows.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QToolButton>
+
+namespace mirelle {
+namespace {
+
+constexpr int kPreviewHeight = 56;
+constexpr int kKindWidth = 84;
+constexpr int kListHeight = 88; // at least
+
+QComboBox* MakeDrives(Binder& binder, QWidget* parent) {
+    auto* drives = new QComboBox(parent);
+    drives->setFixedHeight(look::kControlHeight);
+    drives->setMinimumContentsLength(1);
+    drives->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    drives->setFocusPolicy(Qt::TabFocus);
+    binder.Drives(binder.TheForm().Drive5, *drives);
+    return drives;
+}
+
+// The button shows what it does next.
+void FollowWindowState(FrmPicX& form, look::IconButton* button) {
+    ShowWhenChanged(form, button, [&form, button] {
+        const std::string_view name =
+            form.WindowState == kWindowMaximized ? look::kNormalSizeIcon : look::IconOf("cmdFullScreen");
+        button->SetDrawing(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+    });
+}
+
+} // namespace
+
+FileSection::FileSection(Binder& binder, QWidget* parent) : QWidget(parent) {
+    Parts parts(binder, *this);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(look::kSpaceSmall);
+    column->addLayout(DriveRow(parts));
+    column->addLayout(Lists(parts), 1);
+    column->addLayout(KindRow(parts));
+}
+
+QLayout* FileSection::DriveRow(Parts& parts) {
+    FrmPicX& form = parts.Form();
+    QComboBox* drives = MakeDrives(parts.TheBinder(), this);
+    auto* row = Row({drives, parts.Button(form.cmdBackDir), parts.Button(form.cmdRefreshFile)});
+    row->setStretch(0, 1);
+    return row;
+}
+
+QLayout* FileSection::Lists(Parts& parts) {
+    FrmPicX& form = parts.Form();
+    auto* folders = new RowsView(this);
+    folders->setMinimumHeight(look::kRowHeight * 2);
+    folders->setItemDelegate(new FolderRows(folders));
+    parts.TheBinder().Folders(form.Dir5, *folders);
+    auto* files = new RowsView(this);
+    files->setMinimumHeight(kListHeight);
+    parts.TheBinder().Files(form.File5, *files);
+    FittedView* preview = parts.Preview(form.Imagex, {kPreviewHeight, kPreviewHeight});
+    preview->setFixedHeight(kPreviewHeight);
+    auto* left = Column();
+    left->addWidget(folders, 1);
+    left->addWidget(preview);
+    auto* lists = Row();
+    lists->addLayout(left, 4);
+    lists->addWidget(files, 5);
+    look::ElidedLabel* path = parts.Note(form.lblPubPath);
+    auto* whole = Column();
+    whole->addLayout(lists, 1);
+    whole->addWidget(path);
+    return whole;
+}
+
+QLayout* FileSection::KindRow(Parts& parts) {
+    FrmPicX& form = parts.Form();
+    QComboBox* kind = parts.EditableChoice(form.Combo5);
+    kind->setFixedWidth(kKindWidth);
+    look::ElidedLabel* count = parts.Note(form.Label8(46));
+    look::IconButton* fullScreen = parts.Button(form.cmdFullScreen);
+    FollowWindowState(form, fullScreen);
+    auto* row = Row({kind, count, parts.Button(form.Command2), fullScreen});
+    row->setStretch(1, 1);
+    return row;
+}
+
+} // namespace mirelle
