@@ -31,7 +31,7 @@ void Card::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     Surface surface(painter);
     surface.Fill(rect(), kCardRadius, QColor(kCard));
-    surface.Edge(rect(), kCardRadius, QColor(kCardEdge), kEdge);
+    surface.Edge(rect(), kCardRadius, QColor(kCardEdge));
     if (caption_.isEmpty()) return;
     painter.setFont(CaptionFont());
     painter.setPen(QColor(kTextQuiet));

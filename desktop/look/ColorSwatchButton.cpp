@@ -17,7 +17,7 @@ constexpr double kLost = 1.7; // below this contrast a colour is lost on its but
 
 void PaintColour(Surface& surface, const QRectF& place, double radius, const QColor& colour) {
     surface.Fill(place, radius, colour);
-    if (ContrastRatio(colour.rgb(), kControl) < kLost) surface.Edge(place, radius, QColor(kMarkEdge), kEdge);
+    if (ContrastRatio(colour.rgb(), kControl) < kLost) surface.Edge(place, radius, QColor(kMarkEdge));
 }
 
 } // namespace

@@ -79,7 +79,7 @@ void PaintTick(QPainter& painter, const QStyleOption& option) {
     const QRectF box = CentredSquare(option.rect, kTick);
     Surface surface(painter);
     surface.Fill(box, kTickRadius, colours.ground);
-    surface.Edge(box, kTickRadius, colours.edge, kEdge);
+    surface.Edge(box, kTickRadius, colours.edge);
 
     QPainterPath mark;
     if (option.state & QStyle::State_On) {
@@ -100,10 +100,9 @@ void PaintRadio(QPainter& painter, const QStyleOption& option) {
     const QRectF box = CentredSquare(option.rect, kTick);
     Surface surface(painter);
     surface.Fill(box, kTick / 2.0, colours.ground);
-    surface.Edge(box, kTick / 2.0, colours.edge, kEdge);
+    surface.Edge(box, kTick / 2.0, colours.edge);
     if (!(option.state & QStyle::State_On)) return;
-    constexpr double inset = (kTick - kRadioDot) / 2.0;
-    surface.Disc(box.adjusted(inset, inset, -inset, -inset), colours.mark);
+    surface.Disc(surface.Grid().Snapped(box).center(), kRadioDot, colours.mark);
 }
 
 } // namespace mirelle::look

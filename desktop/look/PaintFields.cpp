@@ -22,7 +22,7 @@ void PaintFieldEdge(Surface& surface, const QStyleOption& option) {
     if (option.state & QStyle::State_HasFocus) return surface.FocusRing(option.rect, kControlRadius, base);
     const bool hovered = IsEnabled(option) && (option.state & QStyle::State_MouseOver);
     const QRgb edge = !IsEnabled(option) ? kControl : hovered ? kMarkEdge : kFieldEdge;
-    surface.Edge(option.rect, kControlRadius, QColor(edge), kEdge);
+    surface.Edge(option.rect, kControlRadius, QColor(edge));
 }
 
 QRect Mirrored(const QStyleOption& option, const QRect& rect) {

@@ -20,7 +20,7 @@ constexpr int kMenuMark = kIcon + kSpace;
 void PaintSeparator(QPainter& painter, const QRect& rect) {
     Surface surface(painter);
     const QRectF line(rect.x() + kSpace, rect.center().y(), rect.width() - 2 * kSpace,
-                      surface.Grid().Stroke(kEdge));
+                      surface.Grid().Hairline());
     surface.Fill(line, 0, QColor(kFieldEdge));
 }
 
@@ -43,7 +43,7 @@ void PaintMark(QPainter& painter, const QStyleOptionMenuItem& option, const QRec
 
 void PaintMenuPanel(QPainter& painter, const QStyleOption& option) {
     painter.fillRect(option.rect, QColor(kCard));
-    Surface(painter).Edge(option.rect, 0, QColor(kFieldEdge), kEdge);
+    Surface(painter).Edge(option.rect, 0, QColor(kFieldEdge));
 }
 
 QSize MenuItemSize(const QStyleOptionMenuItem& option, const QSize& contents) {
@@ -84,13 +84,13 @@ void PaintMenuItem(QPainter& painter, const QStyleOptionMenuItem& option) {
 
 void PaintTip(QPainter& painter, const QStyleOption& option) {
     painter.fillRect(option.rect, option.palette.color(QPalette::ToolTipBase));
-    Surface(painter).Edge(option.rect, 0, QColor(kFieldEdge), kEdge);
+    Surface(painter).Edge(option.rect, 0, QColor(kFieldEdge));
 }
 
 void PaintHeaderGround(QPainter& painter, const QStyleOptionHeader& option) {
     painter.fillRect(option.rect, GroundOf(option, QColor(kCard)));
     Surface surface(painter);
-    const double line = surface.Grid().Stroke(kEdge);
+    const double line = surface.Grid().Hairline();
     surface.Fill(QRectF(option.rect.x(), option.rect.bottom() + 1 - line, option.rect.width(), line), 0,
                  QColor(kFieldEdge));
 }

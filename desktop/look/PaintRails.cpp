@@ -125,9 +125,9 @@ void PaintSlider(QPainter& painter, const QStyleOptionSlider& option) {
     const QRgb ink = !enabled                                           ? kTextOff
                      : held || (option.state & QStyle::State_MouseOver) ? kTextStrong
                                                                         : kText;
-    const double gap = surface.Grid().Stroke(2);
-    surface.Disc(handle, QColor(kCard)); // parts the handle from the filled groove
-    surface.Disc(handle.adjusted(gap / 2, gap / 2, -gap / 2, -gap / 2), QColor(ink));
+    const QPointF centre = surface.Grid().Snapped(handle).center();
+    surface.Disc(centre, kSliderHandle + 2, QColor(kCard)); // parts the handle from the filled groove
+    surface.Disc(centre, kSliderHandle, QColor(ink));
     if (ShowsFocus(option))
         surface.FocusRing(handle.adjusted(-2, -2, 2, 2), kSliderHandle / 2.0 + 2, QColor(kCard));
 }

@@ -53,7 +53,7 @@ void PaintFocus(QPainter& painter, const QStyleOption& option, const QWidget* wi
 // The frame of a list or text area is a field; about anything else it is an edge.
 void PaintFrame(QPainter& painter, const QStyleOption& option, const QWidget* widget) {
     if (!qobject_cast<const QAbstractScrollArea*>(widget)) {
-        return Surface(painter).Edge(option.rect, 0, QColor(kFieldEdge), kEdge);
+        return Surface(painter).Edge(option.rect, 0, QColor(kFieldEdge));
     }
     QStyleOption field = option;
     field.state.setFlag(QStyle::State_HasFocus, ShowsFocus(option)); // no cursor blinks in a list

@@ -1,5 +1,6 @@
 #include "desktop/look/Surface.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include <QStyle>
@@ -24,6 +25,10 @@ QRectF DeviceGrid::Snapped(const QRectF& rect) const {
     return {Snapped(rect.topLeft()), Snapped(rect.bottomRight())};
 }
 
+double DeviceGrid::Hairline() const {
+    return std::max(1.0, std::round(kEdge * scale_)) / scale_;
+}
+
 double DeviceGrid::Stroke(double width) const {
     return FittedStroke(width, scale_) / scale_;
 }
@@ -44,8 +49,7 @@ void Surface::Fill(const QRectF& rect, double radius, const QColor& colour) {
     painter_.drawRoundedRect(grid_.Snapped(rect), radius, radius);
 }
 
-void Surface::Edge(const QRectF& rect, double radius, const QColor& colour, double width) {
-    const double stroke = grid_.Stroke(width);
+void Surface::Outline(const QRectF& rect, double radius, const QColor& colour, double stroke) {
     const double half = stroke / 2;
     painter_.setPen(QPen(colour, stroke));
     painter_.setBrush(Qt::NoBrush);
@@ -53,14 +57,18 @@ void Surface::Edge(const QRectF& rect, double radius, const QColor& colour, doub
                              radius - half);
 }
 
-void Surface::FocusRing(const QRectF& rect, double radius, const QColor& ground) {
-    Edge(rect, radius, QColor(RingOn(ground.rgb())), kFocusRing);
+void Surface::Edge(const QRectF& rect, double radius, const QColor& colour) {
+    Outline(rect, radius, colour, grid_.Hairline());
 }
 
-void Surface::Disc(const QRectF& rect, const QColor& colour) {
+void Surface::FocusRing(const QRectF& rect, double radius, const QColor& ground) {
+    Outline(rect, radius, QColor(RingOn(ground.rgb())), grid_.Stroke(kFocusRing));
+}
+
+void Surface::Disc(QPointF centre, double diameter, const QColor& colour) {
     painter_.setPen(Qt::NoPen);
     painter_.setBrush(colour);
-    painter_.drawEllipse(grid_.Snapped(rect));
+    painter_.drawEllipse(centre, diameter / 2, diameter / 2);
 }
 
 QColor GroundOf(const QStyleOption& option, const QColor& rest) {

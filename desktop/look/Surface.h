@@ -17,7 +17,8 @@ public:
     double Scale() const { return scale_; } // device pixels to a unit
     QPointF Snapped(QPointF point) const;   // to the nearest corner of pixels
     QRectF Snapped(const QRectF& rect) const;
-    double Stroke(double width) const; // a width in units that is fit for sharp lines
+    double Hairline() const;           // the width of an edge: kEdge in whole pixels, in units
+    double Stroke(double width) const; // as FittedStroke, in units
 
 private:
     QTransform toDevice_;
@@ -33,16 +34,18 @@ public:
     Surface& operator=(const Surface&) = delete;
 
     void Fill(const QRectF& rect, double radius, const QColor& colour);
-    // Along the inside of `rect`.
-    void Edge(const QRectF& rect, double radius, const QColor& colour, double width);
+    // A hairline along the inside of `rect`.
+    void Edge(const QRectF& rect, double radius, const QColor& colour);
     // A ring that is seen on `ground`, the colour that it is drawn over.
     void FocusRing(const QRectF& rect, double radius, const QColor& ground);
-    void Disc(const QRectF& rect, const QColor& colour);
+    void Disc(QPointF centre, double diameter, const QColor& colour);
 
     QPainter& Painter() { return painter_; }
     const DeviceGrid& Grid() const { return grid_; }
 
 private:
+    void Outline(const QRectF& rect, double radius, const QColor& colour, double stroke);
+
     QPainter& painter_;
     DeviceGrid grid_;
 };

@@ -1,6 +1,9 @@
 // Pictures of widgets, to be looked into pixel by pixel.
 #pragma once
 
+#include <algorithm>
+#include <cstdlib>
+
 #include <QColor>
 #include <QImage>
 #include <QPainter>
@@ -31,6 +34,22 @@ inline int CountOf(const QImage& image, QRgb colour) {
             count += image.pixel(x, y) == colour;
     }
     return count;
+}
+
+// Of any channel of any pixel; the two have one size. The rasteriser of curves is not symmetrical to the last
+// bit.
+inline int GreatestDifference(const QImage& a, const QImage& b) {
+    int greatest = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            for (const int shift : {0, 8, 16, 24}) {
+                const int left = static_cast<int>((a.pixel(x, y) >> shift) & 0xff);
+                const int right = static_cast<int>((b.pixel(x, y) >> shift) & 0xff);
+                greatest = std::max(greatest, std::abs(left - right));
+            }
+        }
+    }
+    return greatest;
 }
 
 template <typename Option>

@@ -244,6 +244,30 @@ TEST_F(StyleTest, EdgesAreSharpAtEveryScale) {
     }
 }
 
+TEST_F(StyleTest, RadioButtonsAreRoundAtEveryScale) {
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+        QImage image = Blank({16, 16}, scale);
+        QPainter painter(&image);
+        auto option = OptionFor<QStyleOption>({16, 16}, kRest | QStyle::State_On);
+        option.palette = palette_;
+        style_.drawPrimitive(QStyle::PE_IndicatorRadioButton, &option, &painter);
+        painter.end();
+        EXPECT_LE(GreatestDifference(image, image.mirrored(true, false)), 16) << scale;
+        EXPECT_LE(GreatestDifference(image, image.transformed(QTransform().rotate(90))), 16) << scale;
+    }
+}
+
+TEST_F(StyleTest, AnEdgeIsOneWholePixelAtScaleOneAndAQuarter) {
+    QImage image = Blank({80, 24}, 1.25);
+    QPainter painter(&image);
+    auto option = OptionFor<QStyleOption>({80, 24}, kRest);
+    option.palette = palette_;
+    style_.drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter);
+    painter.end();
+    EXPECT_EQ(image.pixel(0, 15), kFieldEdge);
+    EXPECT_EQ(image.pixel(1, 15), kField);
+}
+
 TEST_F(StyleTest, MessageBoxesHaveOurDrawings) {
     const QImage warning =
         style_.standardIcon(QStyle::SP_MessageBoxWarning).pixmap(QSize(40, 40), 1.0).toImage();
