@@ -61,7 +61,7 @@ TEST(ScrollBar, TheGreatestRangesDoNotOverflow) {
     bar.sliderPosition = bar.minimum;
     const QRect handle = ScrollBarPart(bar, QStyle::SC_ScrollBarSlider);
     EXPECT_TRUE(bar.rect.contains(handle));
-    EXPECT_NEAR(handle.width(), bar.rect.width() / 3, 1);
+    EXPECT_NEAR(handle.width(), bar.rect.width() / 3.0, 1);
 }
 
 TEST(ScrollBar, ReachesBothEnds) {
