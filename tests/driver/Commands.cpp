@@ -21,8 +21,8 @@ const Command& CommandIn(std::span<const Command> table, Words words) {
 const Command& CommandOf(Words words) {
     static const std::vector<Command> kAll = [] {
         std::vector<Command> all;
-        for (const auto table :
-             {CallCommands, ControlCommands, DesktopCommands, PictureCommands, TimeCommands, WindowCommands})
+        for (const auto table : {CallCommands, ControlCommands, DesktopCommands, JpegCommands,
+                                 PictureCommands, TimeCommands, WindowCommands})
             std::ranges::copy(table(), std::back_inserter(all));
         return all;
     }();

@@ -28,6 +28,7 @@ std::span<const Command> CallCommands();
 std::span<const Command> ControlCommands();
 std::span<const Command> WindowCommands();
 std::span<const Command> DesktopCommands();
+std::span<const Command> JpegCommands();
 std::span<const Command> PictureCommands();
 std::span<const Command> TimeCommands();
 

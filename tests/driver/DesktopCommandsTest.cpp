@@ -162,15 +162,6 @@ TEST_F(DesktopCommands, TheConsoleWindowMayBeAbsent) {
     EXPECT_NO_THROW(Desktop().console.AppActivate("Ruby Console"));
 }
 
-TEST_F(DesktopCommands, RoutinesThatNoControlReachesAreCalledByName) {
-    EXPECT_EQ(say("call ApplyMaterialToLayerFaces"), "ok");
-    EXPECT_THAT(say("sent"), testing::HasSubstr("SendKeys"));
-    say("console absent");
-    EXPECT_EQ(say("call SendMaterialAfterSave"), "ok");
-    EXPECT_THAT(say("call FormGradients PicImage"), StartsWith("error usage "));
-    EXPECT_THAT(say("call ApplyMaterialToLayerFaces now"), StartsWith("error usage "));
-}
-
 TEST_F(DesktopCommands, DocumentsThatWereOpenedAreToldOnce) {
     Desktop().viewer.Open("C:\\Mirelle\\Support\\a.pdf", "C:\\", 0);
     EXPECT_EQ(say("opened"), R"(ok [["C:\\Mirelle\\Support\\a.pdf","C:\\",0]])");

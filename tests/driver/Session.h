@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/Sampler.h"
+#include "tests/driver/NamedFiles.h"
 #include "tests/driver/References.h"
 #include "tests/support/ScriptedDesktop.h"
 
@@ -13,8 +14,8 @@ namespace mirelle::driver {
 
 // What a session is not the owner of: files, and whatever reads and writes pictures.
 struct Host {
-    FileSystem& files;
-    PictureLoader& loader;
+    NamedFiles& files;
+    PictureLoader& loader; // both over those files
     ImageEncoders& encoders;
     // Reads a picture for arranging a test, from a path of this machine. Throws CommandError.
     std::function<Picture(const std::string& path)> readPicture;
@@ -35,6 +36,7 @@ public:
     // Every form that is there.
     std::vector<Form*> Forms();
 
+    NamedFiles& Files() { return host_.files; }
     Picture ReadPicture(const std::string& path) const { return host_.readPicture(path); }
 
     test::ScriptedDesktop desktop;

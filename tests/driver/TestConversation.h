@@ -13,10 +13,12 @@ namespace mirelle::driver {
 
 struct TestConversation {
     test::MemoryFileSystem files;
+    test::MemoryFileSystem machine; // what commands name by its own paths
+    NamedFiles named{files, machine};
     test::ScriptedLoader loader;
     test::ScriptedEncoders encoders;
     std::map<std::string, Picture> pictures; // what the machine's own paths hold
-    Session session{{files, loader, encoders, [this](const std::string& path) { return PictureAt(path); }}};
+    Session session{{named, loader, encoders, [this](const std::string& path) { return PictureAt(path); }}};
     Conversation conversation{session};
 
     // The answer to a command; "" where there is none.

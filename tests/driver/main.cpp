@@ -1,9 +1,15 @@
 // mirelle_driver: the program without a window, driven by commands on the standard input.
+#include "desktop/encoders/FileEncoders.h"
 #include "desktop/files/NativeFileSystem.h"
 #include "desktop/files/RootedWindowsFileSystem.h"
+#include "desktop/pictures/ImageFileLoader.h"
+#include "desktop/pictures/PictureFileIO.h"
+#include "forms/RunTimeError.h"
 #include "tests/driver/Conversation.h"
 #include "tests/driver/Errors.h"
+#include "tests/driver/Json.h"
 #include "tests/driver/LineReader.h"
+#include "tests/driver/NamedFiles.h"
 
 #include <exception>
 #include <filesystem>
@@ -47,6 +53,14 @@ std::unique_ptr<FileSystem> FilesBelow(const Options& options) {
     return std::make_unique<NativeFileSystem>(root, (temporary / "komp.txt").string(), root);
 }
 
+Picture ReadPicture(const std::string& path) {
+    try {
+        return ReadTestPicture(path);
+    } catch (const RunTimeError& error) {
+        throw driver::CommandError("can't read " + driver::JsonString(path) + ": " + error.Description());
+    }
+}
+
 int Converse(driver::Session& session) {
     driver::Conversation conversation(session);
     while (!conversation.Ended()) {
@@ -66,8 +80,12 @@ int main(int count, char** arguments) {
         return kUsageStatus;
     }
     try {
-        const std::unique_ptr<FileSystem> files = FilesBelow(*options);
-        mirelle::driver::Session session({*files});
+        const std::unique_ptr<FileSystem> program = FilesBelow(*options);
+        NativeFileSystem machine("/", {});
+        driver::NamedFiles files(*program, machine);
+        ImageFileLoader loader(files);
+        FileEncoders encoders(files);
+        driver::Session session({files, loader, encoders, ReadPicture});
         return Converse(session);
     } catch (const std::exception& error) {
         std::cerr << "mirelle_driver: " << error.what() << '\n';
