@@ -16,6 +16,13 @@ float MeasureOf(int pixels, ScaleUnit unit) {
 
 PictureBox::PictureBox(Form& form, std::string name, Units units)
     : Control(form, std::move(name)), AutoSize(*this, units.autoSize), units_(units) {
+    // A size that pixels can't tell is refused ahead of the change, as a negative one is.
+    const auto refuse = [outer = units.outer](float size) {
+        RefuseNegative(size);
+        PixelsOf(size, outer);
+    };
+    Width.SetGuard(refuse);
+    Height.SetGuard(refuse);
     Width.OnChange([this] { FollowSize(); });
     Height.OnChange([this] { FollowSize(); });
     BackColor.OnChange([this] { surface_.SetBackground(BackColor); });

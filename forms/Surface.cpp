@@ -3,21 +3,34 @@
 #include "forms/Stretch.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace mirelle {
 namespace {
 
+// What of a run of pixels exists on both sides, as a part of the run.
+struct Clipped {
+    int skip = 0;
+    int length = 0;
+};
+
+// The run goes from one place to another; both may lie anywhere, so that their sums need the wider numbers.
+Clipped Clip(int length, std::int64_t from, int sourceLength, std::int64_t to, int targetLength) {
+    const std::int64_t skip = std::max({std::int64_t{0}, -from, -to});
+    const std::int64_t end = std::min({std::int64_t{length}, sourceLength - from, targetLength - to});
+    if (end <= skip) return {};
+    return {static_cast<int>(skip), static_cast<int>(end - skip)};
+}
+
 void CopyRect(const Bitmap& source, PixelArea from, Bitmap& target, int left, int top) {
-    const int skipX = std::max({0, -from.x, -left});
-    const int skipY = std::max({0, -from.y, -top});
-    const int width = std::min({from.width, source.Width() - from.x, target.Width() - left}) - skipX;
-    const int height = std::min({from.height, source.Height() - from.y, target.Height() - top}) - skipY;
-    if (width <= 0) return;
-    for (int y = 0; y < height; ++y) {
-        const auto row =
-            source.Row(from.y + skipY + y)
-                .subspan(static_cast<std::size_t>(from.x + skipX), static_cast<std::size_t>(width));
-        std::ranges::copy(row, target.Row(top + skipY + y).begin() + left + skipX);
+    const Clipped across = Clip(from.width, from.x, source.Width(), left, target.Width());
+    const Clipped down = Clip(from.height, from.y, source.Height(), top, target.Height());
+    if (across.length == 0) return;
+    for (int y = down.skip; y < down.skip + down.length; ++y) {
+        const auto row = source.Row(from.y + y)
+                             .subspan(static_cast<std::size_t>(from.x + across.skip),
+                                      static_cast<std::size_t>(across.length));
+        std::ranges::copy(row, target.Row(top + y).begin() + (left + across.skip));
     }
 }
 
