@@ -5,8 +5,8 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <span>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -46,8 +46,10 @@ public:
                         std::string_view(reinterpret_cast<const char*>(content.data()), content.size()));
     }
     std::string ContentOf(std::string_view name) const {
-        std::ifstream file(*this / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
+        const std::ifstream file(*this / name, std::ios::binary);
+        std::ostringstream content;
+        content << file.rdbuf();
+        return content.str();
     }
 
 private:
