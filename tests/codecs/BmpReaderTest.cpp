@@ -172,9 +172,12 @@ TEST(BmpReader, ReadsFilesOfTheOldestKind) {
 
 TEST(BmpReader, ReadsShorterAndLongerHeaders) {
     for (const std::uint32_t size : {16u, 40u, 52u, 56u, 64u, 108u, 124u})
-        EXPECT_EQ(
-            Read({.width = 2, .bitCount = 8, .headerSize = size, .palette = Ramp(256), .pixels = {3, 4, 0, 0}}),
-            (Colours{RampColour(3), RampColour(4)}))
+        EXPECT_EQ(Read({.width = 2,
+                        .bitCount = 8,
+                        .headerSize = size,
+                        .palette = Ramp(256),
+                        .pixels = {3, 4, 0, 0}}),
+                  (Colours{RampColour(3), RampColour(4)}))
             << size;
 }
 
