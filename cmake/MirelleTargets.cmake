@@ -10,7 +10,7 @@ function(mirelle_settings target)
         target_compile_options(${target} PRIVATE /W4 /WX /utf-8 /permissive-)
     else()
         target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
-            -Woverloaded-virtual -Wcast-align -Wnull-dereference -Wextra-semi -Werror)
+            -Woverloaded-virtual -Wcast-align -Wextra-semi -Werror)
     endif()
     # GCC 12 optimising sees overlapping memory in '"_" + text' where there is none (GCC bug 105651).
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
