@@ -61,7 +61,10 @@ std::vector<std::string> RootedWindowsFileSystem::Drives() const {
 std::string RootedWindowsFileSystem::ResolveFolder(const std::string& path) const {
     const std::optional<std::string> place = FolderPlace(path);
     if (!place || !host::CanEnterFolder(*place)) throw RunTimeError(ErrorNumber::PathNotFound);
-    return TextOf(Parse(path));
+    WindowsPath resolved = Parse(path);
+    // A drive list spells letters small; paths show them capital however they were given.
+    resolved.drive = UpperCase({&resolved.drive, 1}).front();
+    return TextOf(resolved);
 }
 
 bool RootedWindowsFileSystem::FolderExists(const std::string& path) const {

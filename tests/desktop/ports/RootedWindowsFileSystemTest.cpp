@@ -93,7 +93,8 @@ TEST_F(RootedWindowsFileSystemTest, CutsBlanksAndPointsAtANamesEnd) {
 
 TEST_F(RootedWindowsFileSystemTest, ResolvesAFolderToOneText) {
     EXPECT_EQ(files_.ResolveFolder("D:"), "D:\\");
-    EXPECT_EQ(files_.ResolveFolder("c:/Mirelle/Support/"), "c:\\Mirelle\\Support");
+    EXPECT_EQ(files_.ResolveFolder("c:/Mirelle/Support/"), "C:\\Mirelle\\Support");
+    EXPECT_EQ(files_.ResolveFolder("d:"), "D:\\");
     EXPECT_EQ(files_.ResolveFolder("C:\\Mirelle\\\\Support\\..\\."), "C:\\Mirelle");
     EXPECT_EQ(files_.ResolveFolder("C:\\..\\..\\Mirelle"), "C:\\Mirelle");
     EXPECT_EQ(ErrorOf([&] { files_.ResolveFolder("C:\\none"); }), ErrorNumber::PathNotFound);
