@@ -148,11 +148,11 @@ TEST_F(ControlCommands, AFolderOpensByADoubleClickOrByCode) {
     EXPECT_EQ(say("get Dir5.Path"), R"(ok "C:\\")");
 }
 
-TEST_F(ControlCommands, ADriveIsChosenAsTheListSpellsIt) {
+TEST_F(ControlCommands, ADriveIsChosenWithoutRegardToCase) {
     Note(say.Form().Drive5.Change, "Change");
     EXPECT_EQ(say("get Drive5.List"), R"(ok ["c:","d:"])");
     EXPECT_EQ(say("set Drive5.Drive D:"), "ok");
-    EXPECT_EQ(say("get Drive5.Drive"), R"(ok "d:")");
+    EXPECT_EQ(say("get Drive5.Drive"), R"(ok "D:")");
     EXPECT_EQ(say("get Drive5.ListIndex"), "ok 1");
     EXPECT_EQ(say("set Drive5.Drive d:"), "ok");
     EXPECT_EQ(say("set Drive5.Drive Z:"), "ok"); // one that is not ready

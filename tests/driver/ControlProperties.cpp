@@ -91,17 +91,18 @@ std::vector<Row> Lists() {
     };
 }
 
-// The user picks a drive from the list, which spells it in its own way.
+bool SameDrive(const std::string& a, const std::string& b) {
+    return CompareNoCase(a, b) == 0;
+}
+
 void ChooseDrive(DriveListBox& list, const std::string& word) {
-    const std::vector<std::string> rows = list.Rows();
-    const auto row = std::ranges::find_if(
-        rows, [&word](const std::string& candidate) { return CompareNoCase(candidate, word) == 0; });
-    list.Drive = row == rows.end() ? word : *row;
+    if (!SameDrive(list.Drive, word)) list.Drive = word;
 }
 
 int RowOfDrive(DriveListBox& list) {
     const std::vector<std::string> rows = list.Rows();
-    const auto row = std::ranges::find(rows, list.Drive());
+    const auto row = std::ranges::find_if(
+        rows, [&list](const std::string& candidate) { return SameDrive(candidate, list.Drive); });
     return row == rows.end() ? kNoRow : static_cast<int>(row - rows.begin());
 }
 
