@@ -56,8 +56,9 @@ struct Part {
 
 class Stretch {
 public:
-    Stretch(const Bitmap& source, const PixelArea& from, Bitmap& target, const PixelArea& to)
-        : source_(source), target_(target), from_(from), to_(to), across_(from.width, to.width),
+    Stretch(const Bitmap& source, const PixelArea& from, Bitmap& target, const PixelArea& to,
+            const PixelArea& clip)
+        : source_(source), target_(target), from_(from), to_(to), clip_(clip), across_(from.width, to.width),
           down_(from.height, to.height) {}
 
     void Draw() {
@@ -80,16 +81,19 @@ public:
     }
 
 private:
-    // What of the destination area lies in the target.
+    // What of the destination area lies in the clip and in the target.
     Part Visible() const {
-        const auto end = [](int origin, int length, int limit) {
-            return static_cast<int>(std::min<std::int64_t>(length, std::int64_t{limit} - origin));
+        const auto begin = [](int to, int length, int clip) {
+            const std::int64_t first = std::max<std::int64_t>(clip, 0);
+            return static_cast<int>(std::clamp<std::int64_t>(first - to, 0, length));
         };
-        const auto begin = [](int origin, int length) {
-            return static_cast<int>(std::clamp<std::int64_t>(-std::int64_t{origin}, 0, length));
+        const auto end = [](int to, int length, int clip, int clipLength, int limit) {
+            const std::int64_t last = std::min<std::int64_t>(std::int64_t{clip} + clipLength, limit);
+            return static_cast<int>(std::clamp<std::int64_t>(last - to, 0, length));
         };
-        return {begin(to_.x, to_.width), begin(to_.y, to_.height), end(to_.x, to_.width, target_.Width()),
-                end(to_.y, to_.height, target_.Height())};
+        return {begin(to_.x, to_.width, clip_.x), begin(to_.y, to_.height, clip_.y),
+                end(to_.x, to_.width, clip_.x, clip_.width, target_.Width()),
+                end(to_.y, to_.height, clip_.y, clip_.height, target_.Height())};
     }
 
     // What of `all` has its source pixels, kx by ky for each, wholly inside of the source.
@@ -123,6 +127,7 @@ private:
     Bitmap& target_;
     PixelArea from_;
     PixelArea to_;
+    PixelArea clip_;
     Axis across_;
     Axis down_;
 };
@@ -178,16 +183,16 @@ void Stretch::DrawWeighted(const Part& part) {
 void HalveRows(const Pixel* upper, const Pixel* lower, Pixel* out, std::size_t count) {
     constexpr std::uint32_t kHalves = 0x00FF00FF;
     constexpr std::uint32_t kRounding = 0x00020002;
+    const auto word = [](const Pixel& pixel) { return std::bit_cast<std::uint32_t>(pixel); };
     for (std::size_t i = 0; i < count; ++i) {
-        const std::array p = {
-            std::bit_cast<std::uint32_t>(upper[2 * i]), std::bit_cast<std::uint32_t>(upper[2 * i + 1]),
-            std::bit_cast<std::uint32_t>(lower[2 * i]), std::bit_cast<std::uint32_t>(lower[2 * i + 1])};
-        const std::uint32_t even =
-            (p[0] & kHalves) + (p[1] & kHalves) + (p[2] & kHalves) + (p[3] & kHalves) + kRounding;
-        const std::uint32_t odd = ((p[0] >> 8) & kHalves) + ((p[1] >> 8) & kHalves) +
-                                  ((p[2] >> 8) & kHalves) + ((p[3] >> 8) & kHalves) + kRounding;
-        const std::uint32_t mean = ((even >> 2) & kHalves) | (((odd >> 2) & kHalves) << 8);
-        out[i] = std::bit_cast<Pixel>(mean);
+        const std::uint32_t a = word(upper[2 * i]);
+        const std::uint32_t b = word(upper[2 * i + 1]);
+        const std::uint32_t c = word(lower[2 * i]);
+        const std::uint32_t d = word(lower[2 * i + 1]);
+        const std::uint32_t even = (a & kHalves) + (b & kHalves) + (c & kHalves) + (d & kHalves) + kRounding;
+        const std::uint32_t odd =
+            (a >> 8 & kHalves) + (b >> 8 & kHalves) + (c >> 8 & kHalves) + (d >> 8 & kHalves) + kRounding;
+        out[i] = std::bit_cast<Pixel>((even >> 2 & kHalves) | (odd >> 2 & kHalves) << 8);
     }
 }
 
@@ -233,12 +238,17 @@ void Stretch::DrawWhole(const Part& part, int kx, int ky) {
 } // namespace
 
 void StretchHalftone(const Bitmap& source, const PixelArea& from, Bitmap& target, const PixelArea& to) {
+    StretchHalftone(source, from, target, to, {0, 0, target.Width(), target.Height()});
+}
+
+void StretchHalftone(const Bitmap& source, const PixelArea& from, Bitmap& target, const PixelArea& to,
+                     const PixelArea& clip) {
     for (const int length : {from.width, from.height, to.width, to.height}) {
         if (length > kLongestStretch) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
         if (length < 1) return;
     }
     if (source.IsEmpty() || target.IsEmpty()) return;
-    Stretch(source, from, target, to).Draw();
+    Stretch(source, from, target, to, clip).Draw();
 }
 
 } // namespace mirelle

@@ -17,6 +17,9 @@ namespace mirelle {
 // Draws `from` of the source over `to` of the target. Nothing is drawn where one of the areas or the source
 // holds no pixel. Raises error 5 for an area longer than kLongestStretch on a side.
 void StretchHalftone(const Bitmap& source, const PixelArea& from, Bitmap& target, const PixelArea& to);
+// The same, drawn only where `clip` of the target is.
+void StretchHalftone(const Bitmap& source, const PixelArea& from, Bitmap& target, const PixelArea& to,
+                     const PixelArea& clip);
 
 // Sums of bytes weighted by areas up to this length on a side fit in 64 bits.
 constexpr int kLongestStretch = 1 << 27;

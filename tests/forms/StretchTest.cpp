@@ -153,6 +153,28 @@ TEST(Stretch, DrawsNothingOutsideOfTheTarget) {
     }
 }
 
+TEST(Stretch, DrawsNothingOutsideOfTheClip) {
+    const Bitmap source = NoiseBitmap(20, 18, 5);
+    const PixelArea from = {1, 2, 18, 14};
+    for (const PixelArea& to : {PixelArea{3, 4, 9, 7}, PixelArea{3, 4, 18, 14}, PixelArea{-2, 4, 11, 13}}) {
+        for (const PixelArea& clip : {PixelArea{5, 6, 3, 4}, PixelArea{-4, -4, 9, 30}, PixelArea{6, 0, 0, 9},
+                                      PixelArea{30, 30, 4, 4}, PixelArea{0, 0, INT_MAX, INT_MAX}}) {
+            const Bitmap before = NoiseBitmap(24, 21, 7);
+            Bitmap whole = before;
+            StretchHalftone(source, from, whole, to);
+            Bitmap clipped = before;
+            StretchHalftone(source, from, clipped, to, clip);
+            for (int y = 0; y < 21; ++y) {
+                for (int x = 0; x < 24; ++x) {
+                    const bool inside =
+                        x >= clip.x && x - clip.x < clip.width && y >= clip.y && y - clip.y < clip.height;
+                    ASSERT_EQ(clipped.At(x, y), inside ? whole.At(x, y) : before.At(x, y));
+                }
+            }
+        }
+    }
+}
+
 TEST(Stretch, SpreadsOnePixelColumnInsideOneBitmap) {
     Bitmap bitmap = NoiseBitmap(10, 4, 6);
     const Bitmap before = bitmap;
