@@ -1,6 +1,7 @@
 // Bits of a scan into bytes, the highest first, with a zero stuffed behind every byte that is all ones.
 #pragma once
 
+#include "codecs/jpeg/BitString.h"
 #include "codecs/jpeg/OutBuffer.h"
 
 #include <cstdint>
@@ -13,15 +14,19 @@ class BitWriter {
 public:
     explicit BitWriter(OutBuffer& out) : out_(out), next_(out.Next()) {}
 
-    // Writes the `length` lowest bits (0..32) of `bits`, whose other bits are 0.
+    // Writes the `length` lowest bits (0..32) of `bits`, whose other bits are 0. Raises error 9 when the
+    // bytes go beyond the buffer's limit.
     void WriteBits(std::uint32_t bits, unsigned length) {
         accumulator_ = (accumulator_ << length) | bits;
         held_ += length;
         if (held_ >= 32) StoreFour();
     }
 
-    // To be asked at least once a block. Raises error 9 when the bytes went beyond the buffer's limit.
-    void CheckLimit() const { out_.CheckLimit(next_); }
+    void Write(const BitString& bits) {
+        for (const std::uint32_t word : bits.Words())
+            WriteBits(word, 32);
+        WriteBits(bits.TailBits(), bits.TailLength());
+    }
 
     // Fills the byte that is begun with ones and hands the bytes over to the buffer.
     void Flush() {
@@ -40,6 +45,7 @@ private:
     }
 
     void StoreFour() {
+        out_.CheckLimit(next_);
         held_ -= 32;
         const auto four = static_cast<std::uint32_t>(accumulator_ >> held_);
         // A byte of `four` is all ones exactly where its complement is 0; the subtraction then borrows into
@@ -58,7 +64,7 @@ private:
     }
 
     OutBuffer& out_;
-    std::uint8_t* next_;
+    std::uint8_t* next_;            // at most OutBuffer::kMargin bytes beyond the limit
     std::uint64_t accumulator_ = 0; // its lowest held_ bits are still to be stored
     unsigned held_ = 0;             // below 32 between calls
 };

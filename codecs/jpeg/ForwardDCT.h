@@ -7,6 +7,8 @@
 // part of the result to the bit.
 #pragma once
 
+#include "codecs/jpeg/Inline.h"
+
 #include <cstddef>
 #include <cstdint>
 
@@ -19,7 +21,7 @@ struct Lanes {
 
 // One direction: transforms the eight values of each lane by themselves. The loop's body has no branch and no
 // call, so that the compiler does several lanes at once.
-inline void TransformLanes(Lanes& lanes) {
+MIRELLE_INLINE void TransformLanes(Lanes& lanes) {
     for (std::size_t lane = 0; lane < 8; ++lane) {
         const auto x = [&](std::size_t i) -> std::int32_t& { return lanes.value[i][lane]; };
         const std::int32_t a0 = x(0) + x(7), a7 = x(0) - x(7);
@@ -56,7 +58,7 @@ inline void TransformLanes(Lanes& lanes) {
     }
 }
 
-inline void Transpose(const Lanes& from, Lanes& to) {
+MIRELLE_INLINE void Transpose(const Lanes& from, Lanes& to) {
     for (std::size_t i = 0; i < 8; ++i) {
         for (std::size_t j = 0; j < 8; ++j)
             to.value[j][i] = from.value[i][j];
@@ -64,7 +66,7 @@ inline void Transpose(const Lanes& from, Lanes& to) {
 }
 
 // From value[row][column] to value[column][row]: the result comes transposed.
-inline void ForwardDCT(Lanes& block) {
+MIRELLE_INLINE void ForwardDCT(Lanes& block) {
     TransformLanes(block);
     Lanes across;
     Transpose(block, across);

@@ -4,8 +4,6 @@
 #include "forms/Numbers.h"
 
 #include <algorithm>
-#include <bit>
-#include <cstdlib>
 #include <limits>
 
 namespace mirelle::jpeg {
@@ -94,10 +92,6 @@ void Require(bool good) {
 }
 
 } // namespace
-
-int BitLength(std::int32_t value) {
-    return std::bit_width(static_cast<std::uint32_t>(std::abs(value)));
-}
 
 void OptimizeHuffman(HuffmanTable& table, Frequencies& frequency) {
     const CodeSizes codesize = CodeSizesFor(frequency);

@@ -11,9 +11,9 @@ namespace mirelle::jpeg {
 
 class OutBuffer {
 public:
-    // The bytes that may be stored beyond the limit before somebody asks CheckLimit: more than the longest
-    // codes of a block, each byte of them stuffed.
-    static constexpr std::size_t kMargin = 1024;
+    // The bytes that may be stored beyond the limit by a writer that asks CheckLimit before every four,
+    // stuffed or not, and MoveTo at its end.
+    static constexpr std::size_t kMargin = 32;
 
     // Raises error 7 when the memory can't be had.
     explicit OutBuffer(std::size_t limit) : limit_(limit), bytes_(limit + kMargin) {}

@@ -57,6 +57,12 @@ public:
         }
     }
 
+    // How many blocks stand in the MCU rows above one: those are complete, and the last of them is the one
+    // whose DC value the row's first difference is taken from.
+    std::size_t BlocksAbove(std::int32_t mcuRow) const {
+        return static_cast<std::size_t>(mcuRow) * v_ * perRow_;
+    }
+
 private:
     McuCount mcus_;
     std::size_t h_;

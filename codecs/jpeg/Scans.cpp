@@ -3,54 +3,95 @@
 #include "codecs/jpeg/BitWriter.h"
 #include "codecs/jpeg/BlockEncoder.h"
 #include "codecs/jpeg/Markers.h"
+#include "codecs/jpeg/Share.h"
+
+#include <utility>
 
 namespace mirelle::jpeg {
 namespace {
 
 using CodesByTable = std::array<ComponentCodes, 2>;
 
-void WriteScanSingle(OutBuffer& out, const Component& component, const ComponentCodes& codes) {
+// The least number of blocks that is worth a thread.
+constexpr std::size_t kShortestSlice = 2048;
+
+// Codes all slices side by side and writes them one behind the other.
+template <class Encode>
+void WriteSlices(OutBuffer& out, const Slices& slices, Encode encode) {
+    std::vector<BitString> coded(slices.Number());
+    RunShared(slices, [&](std::size_t slice) {
+        BitString bits;
+        encode(slices.Begin(slice), slices.End(slice), bits);
+        coded[slice] = std::move(bits);
+    });
     BitWriter writer(out);
-    int lastDc = 0;
-    for (std::size_t block = 0; block < component.NonZero.Size(); ++block) {
-        EncodeBlock(writer, &component.Coefficients[64 * block], component.NonZero[block], lastDc, codes);
-        writer.CheckLimit();
-    }
+    for (const BitString& bits : coded)
+        writer.Write(bits);
     writer.Flush();
+}
+
+// The DC value that the first difference after `blocks` blocks is taken from.
+int LastDcOf(const Component& component, std::size_t blocks) {
+    return blocks == 0 ? 0 : component.Coefficients[64 * (blocks - 1)];
+}
+
+void Encode(BitString& out, const Component& component, std::size_t block, int& lastDc,
+            const ComponentCodes& codes) {
+    EncodeBlock(out, &component.Coefficients[64 * block], component.NonZero[block], lastDc, codes);
+}
+
+void WriteScanSingle(OutBuffer& out, const Component& component, const ComponentCodes& codes) {
+    const Slices slices(component.NonZero.Size(), kShortestSlice);
+    WriteSlices(out, slices, [&](std::size_t first, std::size_t end, BitString& bits) {
+        int lastDc = LastDcOf(component, first);
+        for (std::size_t block = first; block < end; ++block)
+            Encode(bits, component, block, lastDc, codes);
+    });
 }
 
 struct InterleavedComponent {
     const Component& component;
     const ComponentCodes& codes;
     InterleavedBlocks blocks;
-    int lastDc = 0;
 };
+
+void EncodeMcuRow(BitString& bits, const std::vector<InterleavedComponent>& parts, std::int32_t row,
+                  std::int32_t across) {
+    std::array<int, 3> lastDc{};
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        lastDc[i] = LastDcOf(parts[i].component, parts[i].blocks.BlocksAbove(row));
+    }
+    for (std::int32_t column = 0; column < across; ++column) {
+        for (std::size_t i = 0; i < parts.size(); ++i) {
+            const InterleavedComponent& part = parts[i];
+            part.blocks.ForEachInMcu(row, column, [&](std::size_t block) {
+                if (block == kDummyBlock) {
+                    EncodeDummyBlock(bits, part.codes);
+                } else {
+                    Encode(bits, part.component, block, lastDc[i], part.codes);
+                }
+            });
+        }
+    }
+}
 
 void WriteScanInterleaved(OutBuffer& out, const Frame& frame, const ScanGroup& group,
                           const CodesByTable& codes) {
+    const McuCount mcus = CountMcus(frame);
+    const auto rows = static_cast<std::size_t>(mcus.down);
     std::vector<InterleavedComponent> parts;
+    std::size_t blocksInRow = 0;
     for (std::size_t k = group.first; k <= group.last; ++k) {
         const Component& component = frame.Components[k];
         parts.push_back({component, codes[TableOf(k)], InterleavedBlocks(frame, component)});
+        blocksInRow += parts.back().blocks.BlocksAbove(1);
     }
-    BitWriter writer(out);
-    const McuCount mcus = CountMcus(frame);
-    for (std::int32_t row = 0; row < mcus.down; ++row) {
-        for (std::int32_t column = 0; column < mcus.across; ++column) {
-            for (InterleavedComponent& part : parts) {
-                part.blocks.ForEachInMcu(row, column, [&](std::size_t block) {
-                    if (block == kDummyBlock) {
-                        EncodeDummyBlock(writer, part.codes);
-                    } else {
-                        EncodeBlock(writer, &part.component.Coefficients[64 * block],
-                                    part.component.NonZero[block], part.lastDc, part.codes);
-                    }
-                    writer.CheckLimit();
-                });
-            }
+    const Slices slices(rows, kShortestSlice / blocksInRow + 1);
+    WriteSlices(out, slices, [&](std::size_t first, std::size_t end, BitString& bits) {
+        for (std::size_t row = first; row < end; ++row) {
+            EncodeMcuRow(bits, parts, static_cast<std::int32_t>(row), mcus.across);
         }
-    }
-    writer.Flush();
+    });
 }
 
 } // namespace

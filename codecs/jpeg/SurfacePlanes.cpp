@@ -1,9 +1,17 @@
 #include "codecs/jpeg/SurfacePlanes.h"
 
+#include "codecs/jpeg/Share.h"
+
 #include <algorithm>
 #include <utility>
 
 namespace mirelle::jpeg {
+namespace {
+
+// The least number of pixels that is worth a thread.
+constexpr std::size_t kShortestSlice = 1 << 15;
+
+} // namespace
 
 SurfacePlanes::SurfacePlanes(const Bitmap& surface, const PixelArea& picture, int w8, int h8,
                              std::vector<PlaneSize> planes)
@@ -42,13 +50,25 @@ PlaneView SurfacePlanes::Fetch(const PlaneSize& plane) {
     const bool copied = IsInSurfaceScale(plane);
     const PixelArea from = {picture_.x, picture_.y, copied ? plane.xi : w8_, copied ? plane.yi : h8_};
     if (!IsSeenInPlace(plane)) {
-        StretchHalftone(surface_, from, buffer_, {0, 0, plane.xi, plane.yi});
+        Draw(from, plane);
         SpreadEdges(plane);
         return ViewOf(buffer_, 0, 0);
     }
     // A later plane may spread what this one leaves beside it.
-    if (someEdgeIsSpread_) StretchHalftone(surface_, from, buffer_, {0, 0, plane.xi, plane.yi});
+    if (someEdgeIsSpread_) Draw(from, plane);
     return ViewOf(surface_, picture_.x, picture_.y);
+}
+
+// In bands of rows, shared out.
+void SurfacePlanes::Draw(const PixelArea& from, const PlaneSize& plane) {
+    const Slices slices(static_cast<std::size_t>(plane.yi),
+                        kShortestSlice / static_cast<std::size_t>(plane.xi) + 1);
+    RunShared(slices, [&](std::size_t slice) {
+        const auto top = static_cast<int>(slices.Begin(slice));
+        const auto bottom = static_cast<int>(slices.End(slice));
+        StretchHalftone(surface_, from, buffer_, {0, 0, plane.xi, plane.yi},
+                        {0, top, plane.xi, bottom - top});
+    });
 }
 
 // From one column (row) past the picture on, into the column (row) after that.

@@ -34,6 +34,7 @@ private:
     bool IsInSurfaceScale(const PlaneSize& plane) const;
     bool IsSeenInPlace(const PlaneSize& plane) const;
     PlaneView Fetch(const PlaneSize& plane);
+    void Draw(const PixelArea& from, const PlaneSize& plane);
     void SpreadEdges(const PlaneSize& plane);
     PlaneView ViewOf(const Bitmap& bitmap, int x, int y) const;
 

@@ -2,12 +2,19 @@
 
 #include "codecs/jpeg/Huffman.h"
 #include "codecs/jpeg/ScanGroups.h"
+#include "codecs/jpeg/Share.h"
 #include "forms/RunTimeError.h"
 
 #include <bit>
+#include <vector>
 
 namespace mirelle::jpeg {
 namespace {
+
+// The least number of blocks that is worth a thread.
+constexpr std::size_t kShortestSlice = 4096;
+
+using Counts = std::array<std::uint32_t, 256>;
 
 std::size_t SymbolOfDc(int value, int last) {
     return static_cast<std::size_t>(BitLength(value - last));
@@ -15,7 +22,7 @@ std::size_t SymbolOfDc(int value, int last) {
 
 // Adds what was counted without a check. A component has fewer than 2^31 values, so that only sums over
 // components can leave 32 bits.
-void Add(const std::array<std::uint32_t, 256>& counted, Frequencies& frequency) {
+void Add(const Counts& counted, Frequencies& frequency) {
     for (std::size_t i = 0; i < counted.size(); ++i) {
         const std::int64_t sum = std::int64_t{frequency[i]} + counted[i];
         if (sum > INT32_MAX) throw RunTimeError(ErrorNumber::Overflow);
@@ -23,10 +30,23 @@ void Add(const std::array<std::uint32_t, 256>& counted, Frequencies& frequency) 
     }
 }
 
+void CountAcSymbolsOfBlock(const std::int16_t* values, std::uint64_t nonZero, Counts& counts) {
+    int last = 0;
+    for (std::uint64_t rest = nonZero & ~std::uint64_t{1}; rest != 0; rest &= rest - 1) {
+        const int k = std::countr_zero(rest);
+        int run = k - last - 1;
+        for (; run > 15; run -= 16)
+            ++counts[0xF0];
+        ++counts[static_cast<std::size_t>(run * 16 + BitLengthOfNonZero(values[k]))];
+        last = k;
+    }
+    if (last != 63) ++counts[0];
+}
+
 } // namespace
 
 void CountDcSymbols(const Component& component, Frequencies& frequency) {
-    std::array<std::uint32_t, 256> counted{};
+    Counts counted{};
     int last = 0;
     for (std::size_t block = 0; block < component.NonZero.Size(); ++block) {
         const int value = component.Coefficients[64 * block];
@@ -37,7 +57,7 @@ void CountDcSymbols(const Component& component, Frequencies& frequency) {
 }
 
 void CountDcSymbolsMCU(const Frame& frame, const Component& component, Frequencies& frequency) {
-    std::array<std::uint32_t, 256> counted{};
+    Counts counted{};
     const InterleavedBlocks blocks(frame, component);
     const McuCount mcus = CountMcus(frame);
     int last = 0;
@@ -54,20 +74,17 @@ void CountDcSymbolsMCU(const Frame& frame, const Component& component, Frequenci
 }
 
 void CountAcSymbols(const Component& component, Frequencies& frequency) {
-    std::array<std::uint32_t, 256> counted{};
-    for (std::size_t block = 0; block < component.NonZero.Size(); ++block) {
-        const std::int16_t* values = &component.Coefficients[64 * block];
-        int last = 0;
-        for (std::uint64_t rest = component.NonZero[block] & ~std::uint64_t{1}; rest != 0; rest &= rest - 1) {
-            const int k = std::countr_zero(rest);
-            const int run = k - last - 1;
-            counted[0xF0] += static_cast<std::uint32_t>(run / 16);
-            ++counted[static_cast<std::size_t>(run % 16 * 16 + BitLength(values[k]))];
-            last = k;
+    const Slices slices(component.NonZero.Size(), kShortestSlice);
+    std::vector<Counts> counted(slices.Number());
+    RunShared(slices, [&](std::size_t slice) {
+        Counts counts{};
+        for (std::size_t block = slices.Begin(slice); block < slices.End(slice); ++block) {
+            CountAcSymbolsOfBlock(&component.Coefficients[64 * block], component.NonZero[block], counts);
         }
-        if (last != 63) ++counted[0];
-    }
-    Add(counted, frequency);
+        counted[slice] = counts;
+    });
+    for (const Counts& counts : counted)
+        Add(counts, frequency);
 }
 
 } // namespace mirelle::jpeg

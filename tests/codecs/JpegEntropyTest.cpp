@@ -145,12 +145,48 @@ TEST(JpegBitWriter, RaisesSubscriptOutOfRangeBeyondTheLimit) {
     const auto eightBytes = [](auto& writer) {
         writer.WriteBits(0x01020304, 32);
         writer.WriteBits(0x05060708, 32);
-        writer.CheckLimit();
     };
     EXPECT_EQ(BytesOf(eightBytes, 8).size(), 8U);
     EXPECT_EQ(RaisedBy([&] { BytesOf(eightBytes, 7); }).number, 9);
     EXPECT_EQ(RaisedBy([&] { BytesOf([](auto& writer) { writer.WriteBits(0xFF, 8); }, 1); }).number, 9)
         << "the stuffed byte counts";
+}
+
+// Far beyond it, too: nothing is stored outside of the buffer's memory on the way.
+TEST(JpegBitWriter, StopsAtTheLimitHoweverMuchIsWritten) {
+    EXPECT_EQ(RaisedBy([] {
+                  BytesOf(
+                      [](auto& writer) {
+                          for (int i = 0; i < 100000; ++i)
+                              writer.WriteBits(0xFFFFFFFF, 32);
+                      },
+                      100);
+              }).number,
+              9);
+}
+
+TEST(JpegBitString, HoldsWhatIsAppendedWhereverItIsCut) {
+    std::mt19937 random(9);
+    for (int round = 0; round < 100; ++round) {
+        std::vector<jpeg::BitString> strings(1);
+        jpeg::OutBuffer directOut(1 << 16);
+        jpeg::BitWriter direct(directOut);
+        for (int i = 0; i < 1000; ++i) {
+            if (random() % 50 == 0) strings.emplace_back();
+            const unsigned length = random() % 33;
+            const auto bits =
+                static_cast<std::uint32_t>((random() | random()) & ((std::uint64_t{1} << length) - 1));
+            strings.back().Reserve(32);
+            strings.back().Append(bits, length);
+            direct.WriteBits(bits, length);
+        }
+        direct.Flush();
+        const Bytes joined = BytesOf([&](auto& writer) {
+            for (const jpeg::BitString& string : strings)
+                writer.Write(string);
+        });
+        ASSERT_EQ(joined, Bytes(directOut.Written().begin(), directOut.Written().end()));
+    }
 }
 
 TEST(JpegOutBuffer, RaisesOverflowForWhatIsNoByteAndNineWhenFull) {
@@ -163,6 +199,13 @@ TEST(JpegOutBuffer, RaisesOverflowForWhatIsNoByteAndNineWhenFull) {
     EXPECT_EQ(out.Remaining(), 0U);
     EXPECT_EQ(RaisedBy([&] { out.Byte(0); }).number, 9);
     EXPECT_EQ(Bytes(out.Written().begin(), out.Written().end()), (Bytes{0x12, 0x34, 0xFF}));
+}
+
+template <class Encode>
+Bytes BytesOfBlocks(Encode encode) {
+    jpeg::BitString bits;
+    encode(bits);
+    return BytesOf([&bits](auto& writer) { writer.Write(bits); });
 }
 
 // Codes by hand: DC 0 is 0, DC 2 is 10; AC 0x00 is 00, 0x01 is 01, 0x13 is 100, 0xF0 is 101.
@@ -182,9 +225,9 @@ TEST(JpegBlocks, AreCodedAsDifferenceRunsAndValues) {
     const auto codes = HandCodes();
     const Component component = ComponentOf({{{0, 3}, {1, -1}, {3, 5}, {20, 1}}, {{0, 0}}, {{0, 0}}});
     int lastDc = 0;
-    const Bytes written = BytesOf([&](auto& writer) {
+    const Bytes written = BytesOfBlocks([&](auto& bits) {
         for (std::size_t b = 0; b < 2; ++b) {
-            jpeg::EncodeBlock(writer, &component.Coefficients[64 * b], component.NonZero[b], lastDc, codes);
+            jpeg::EncodeBlock(bits, &component.Coefficients[64 * b], component.NonZero[b], lastDc, codes);
         }
     });
     // Block 0: 10 11 (3), 01 0 (-1), 100 101 (one zero, 5), 101 01 1 (16 zeros, 1), 00.
@@ -195,9 +238,9 @@ TEST(JpegBlocks, AreCodedAsDifferenceRunsAndValues) {
 
 TEST(JpegBlocks, ADummyIsNoDifferenceAndAnEndOfBlock) {
     const auto codes = HandCodes();
-    EXPECT_EQ(BytesOf([&](auto& writer) {
+    EXPECT_EQ(BytesOfBlocks([&](auto& bits) {
                   for (int i = 0; i < 3; ++i)
-                      jpeg::EncodeDummyBlock(writer, codes);
+                      jpeg::EncodeDummyBlock(bits, codes);
               }),
               (Bytes{0b00000000, 0b01111111}));
 }
@@ -212,9 +255,9 @@ TEST(JpegBlocks, ADummysEndOfBlockWithoutACodeWritesNothing) {
     ac.HuffVal = {0x01};
     jpeg::ExpandHuffman(ac, 255);
     const jpeg::ComponentCodes codes = {jpeg::SymbolCodes(dc), jpeg::SymbolCodes(ac)};
-    EXPECT_EQ(BytesOf([&](auto& writer) {
+    EXPECT_EQ(BytesOfBlocks([&](auto& bits) {
                   for (int i = 0; i < 3; ++i)
-                      jpeg::EncodeDummyBlock(writer, codes);
+                      jpeg::EncodeDummyBlock(bits, codes);
               }),
               (Bytes{0b00011111}));
 }

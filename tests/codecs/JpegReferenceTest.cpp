@@ -124,18 +124,23 @@ TEST_P(JpegReference, ExtremePixelsGiveTheSameFile) {
     }
 }
 
-TEST(JpegReferenceOnce, ALargePictureGivesTheSameFile) {
-    const Bitmap surface = test::SmoothBitmap(517, 389, 9.0);
-    for (const int quality : {100, 75}) {
+// Large enough for several slices in every step that is shared out.
+TEST(JpegReferenceOnce, PicturesThatAreSharedOutGiveTheSameFile) {
+    struct Row {
+        Factors factors;
+        int quality, width, height;
+    };
+    const Bitmap surface = test::SmoothBitmap(1100, 720, 9.0);
+    for (const Row& row : {Row{{2, 2, 1, 1, 1, 1}, 100, 1093, 711}, Row{{2, 2, 1, 1, 1, 1}, 60, 1100, 720},
+                           Row{{4, 4, 2, 2, 1, 1}, 90, 1000, 640}, Row{{1, 1, 0, 0, 0, 0}, 80, 1100, 720}}) {
         cJPEG fast;
         reference::PlainJpeg plain;
-        fast.Quality(quality);
-        plain.Quality(quality);
+        Set(fast, plain, row.factors, row.quality);
         fast.Comment("Mirelle");
         plain.Comment("Mirelle");
-        ASSERT_EQ(fast.SampleHDC(surface, 517, 389), 0);
-        plain.SampleHDC(surface, 517, 389);
-        ASSERT_EQ(test::Saved(fast), plain.File()) << quality;
+        ASSERT_EQ(fast.SampleHDC(surface, row.width, row.height), 0);
+        plain.SampleHDC(surface, row.width, row.height);
+        ASSERT_EQ(test::Saved(fast), plain.File()) << row.factors;
     }
 }
 

@@ -4,6 +4,7 @@
 #include "codecs/jpeg/Quantiser.h"
 #include "codecs/jpeg/Tables.h"
 #include "codecs/jpeg/Transform.h"
+#include "codecs/jpeg/TransformBlocks.h"
 #include "tests/codecs/reference/PlainJpeg.h"
 
 #include <gtest/gtest.h>
@@ -182,6 +183,33 @@ TEST(JpegTransform, TakesBlocksLeftToRightThenDown) {
     EXPECT_EQ(values[64], 80);
     EXPECT_EQ(values[128], 320);
     EXPECT_EQ(values[192], 400);
+}
+
+// Whatever the processor can do: the same values.
+TEST(JpegTransform, AllWaysGiveTheSameValues) {
+    std::mt19937 random(12);
+    constexpr std::size_t kBlocks = 5;
+    const auto ways = jpeg::WaysToTransform();
+    for (int round = 0; round < 300; ++round) {
+        jpeg::BlockRow row;
+        row.pixelBytes = round % 2 == 0 ? 3 : 4;
+        row.component = static_cast<std::size_t>(round % 3);
+        row.blocks = kBlocks;
+        std::vector<std::uint8_t> bytes(8 * 8 * kBlocks * row.pixelBytes);
+        for (std::uint8_t& byte : bytes) {
+            byte = static_cast<std::uint8_t>(round % 5 == 0 ? random() % 2 * 255 : random());
+        }
+        for (std::size_t i = 0; i < 8; ++i)
+            row.pixels[i] = &bytes[8 * kBlocks * row.pixelBytes * i];
+        const auto factors = jpeg::Transposed(TableOf(static_cast<std::int16_t>(1 + round % 40)));
+        std::array<std::vector<std::int16_t>, 2> values = {std::vector<std::int16_t>(64 * kBlocks),
+                                                           std::vector<std::int16_t>(64 * kBlocks)};
+        std::array<std::array<std::uint64_t, kBlocks>, 2> nonZero{};
+        for (std::size_t way = 0; way < 2; ++way)
+            ways[way](row, factors, values[way].data(), nonZero[way].data());
+        ASSERT_EQ(values[0], values[1]);
+        ASSERT_EQ(nonZero[0], nonZero[1]);
+    }
 }
 
 TEST(JpegTransform, ReadsTheNearestEdgePixelBeyondTheMemory) {
