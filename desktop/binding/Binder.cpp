@@ -59,7 +59,8 @@ void Binder::Common(Control& control, QWidget& widget, std::function<void()> sho
         const QString tip = QString::fromStdString(control.ToolTipText);
         if (widget.toolTip() != tip) widget.setToolTip(tip);
         const QString name = caption && !caption->empty() ? QString::fromStdString(*caption) : tip;
-        if (widget.accessibleName() != name) widget.setAccessibleName(name);
+        // A control that tells nothing keeps the name that its panel gave it.
+        if (!name.isEmpty() && widget.accessibleName() != name) widget.setAccessibleName(name);
         if (widget.accessibleDescription() != tip) widget.setAccessibleDescription(tip);
         if (special) special();
         if (widget.isEnabledTo(widget.parentWidget()) != control.Enabled())

@@ -63,7 +63,7 @@ void ControlEvents::Run(const std::function<void()>& action) {
 }
 
 MouseArgs ControlEvents::Args(const QMouseEvent& event, int button) const {
-    const QPoint pixel = DevicePixelAt(widget_, event.position());
+    const QPoint pixel = DevicePixelAt(widget_, event);
     return {button, ShiftNumber(event.modifiers()), static_cast<float>(pixel.x()),
             static_cast<float>(pixel.y())};
 }

@@ -1,5 +1,6 @@
 #include "desktop/binding/DevicePixels.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 #include <QWidget>
 
@@ -27,6 +28,10 @@ QPoint FirstPixel(const QPointF& corner) {
     return {Floor(corner.x() + 0.5), Floor(corner.y() + 0.5)};
 }
 
+QPoint PixelFrom(QPoint first, const QPointF& inWindow) {
+    return QPoint(Floor(inWindow.x() + kDoubt), Floor(inWindow.y() + kDoubt)) - first;
+}
+
 } // namespace
 
 QSize ToDevice(QSize logical, qreal scale) {
@@ -43,9 +48,12 @@ QSize LogicalSizeFor(QSize device, qreal scale) {
 
 QPoint DevicePixelAt(const QWidget& widget, const QPointF& position) {
     const QPointF corner = CornerInWindow(widget);
-    const QPointF inWindow = corner + position * widget.devicePixelRatioF();
-    const QPoint first = FirstPixel(corner);
-    return {Floor(inWindow.x() + kDoubt) - first.x(), Floor(inWindow.y() + kDoubt) - first.y()};
+    return PixelFrom(FirstPixel(corner), corner + position * widget.devicePixelRatioF());
+}
+
+QPoint DevicePixelAt(const QWidget& widget, const QMouseEvent& event) {
+    const QPointF inWindow = event.scenePosition() * widget.devicePixelRatioF();
+    return PixelFrom(FirstPixel(CornerInWindow(widget)), inWindow);
 }
 
 QPointF LogicalPosition(const QWidget& widget, QPoint pixel) {

@@ -9,6 +9,7 @@
 #include <QRect>
 #include <QSize>
 
+class QMouseEvent;
 class QPainter;
 class QPointF;
 class QWidget;
@@ -23,6 +24,9 @@ QSize LogicalSizeFor(QSize device, qreal scale);
 
 // The device pixel under a logical position in the widget, counted from the widget's first one.
 QPoint DevicePixelAt(const QWidget& widget, const QPointF& position);
+// The same for the mouse. An event's position in its widget is rounded to whole logical units on its way;
+// only its place in the window keeps the fraction that tells the pixel.
+QPoint DevicePixelAt(const QWidget& widget, const QMouseEvent& event);
 // The other way: the logical position of a device pixel's top-left corner.
 QPointF LogicalPosition(const QWidget& widget, QPoint pixel);
 // The logical rectangle to repaint so that all of these device pixels are painted.

@@ -5,6 +5,7 @@
 #include "desktop/canvas/PictureImage.h"
 #include "forms/PictureBox.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -56,9 +57,9 @@ QRect FittedView::PlaceInDevicePixels() const {
     return {QPoint((room.width() - size.width()) / 2, (room.height() - size.height()) / 2), size};
 }
 
-std::optional<QPoint> FittedView::PixelAt(const QPointF& position) const {
+std::optional<QPoint> FittedView::PixelAt(const QMouseEvent& event) const {
     const QRect place = PlaceInDevicePixels();
-    const QPoint pixel = DevicePixelAt(*this, position) - place.topLeft();
+    const QPoint pixel = DevicePixelAt(*this, event) - place.topLeft();
     if (place.isEmpty() || !QRect(QPoint(), place.size()).contains(pixel)) return std::nullopt;
     return QPoint(pixel.x() * shown_.picture.Width() / place.width(),
                   pixel.y() * shown_.picture.Height() / place.height());

@@ -10,9 +10,10 @@
 #include <functional>
 #include <optional>
 
+class QMouseEvent;
+
 namespace mirelle {
 
-class Control;
 class Dialogs;
 class ImageControl;
 class PictureBox;
@@ -33,8 +34,8 @@ public:
     // A picture that fills the room takes its proportions; one that does not is only made smaller where the
     // room is too small.
     void SetFilling(bool filling) { filling_ = filling; }
-    // The picture's pixel under a position; nothing beside the picture.
-    std::optional<QPoint> PixelAt(const QPointF& position) const;
+    // The picture's pixel under the mouse; nothing beside the picture.
+    std::optional<QPoint> PixelAt(const QMouseEvent& event) const;
     QSize sizeHint() const override { return hint_; }
     void SetSizeHint(QSize hint) { hint_ = hint; }
 

@@ -60,8 +60,8 @@ void MaterialView::Follow() {
     update();
 }
 
-QPoint MaterialView::MaterialPixel(const QPointF& position) const {
-    return DevicePixelAt(*this, position) - place_;
+QPoint MaterialView::MaterialPixel(const QMouseEvent& event) const {
+    return DevicePixelAt(*this, event) - place_;
 }
 
 bool MaterialView::IsOnMaterial(QPoint pixel) const {
@@ -71,7 +71,7 @@ bool MaterialView::IsOnMaterial(QPoint pixel) const {
 bool MaterialView::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
         const auto& help = static_cast<const QHelpEvent&>(*event);
-        const Control& under = IsOnMaterial(MaterialPixel(help.pos()))
+        const Control& under = IsOnMaterial(DevicePixelAt(*this, help.pos()) - place_)
                                    ? static_cast<const Control&>(form_.picSmall)
                                    : form_.PicScroll;
         QToolTip::showText(help.globalPos(), QString::fromStdString(under.ToolTipText), this);
@@ -94,7 +94,7 @@ void MaterialView::paintEvent(QPaintEvent* event) {
 }
 
 void MaterialView::mousePressEvent(QMouseEvent* event) {
-    const QPoint pixel = MaterialPixel(event->position());
+    const QPoint pixel = MaterialPixel(*event);
     pressed_ = IsOnMaterial(pixel);
     Control& control = pressed_ ? static_cast<Control&>(form_.picSmall) : form_.PicScroll;
     RunGuarded(form_.ports.dialogs, [&] {
@@ -104,7 +104,7 @@ void MaterialView::mousePressEvent(QMouseEvent* event) {
 }
 
 void MaterialView::mouseMoveEvent(QMouseEvent* event) {
-    const QPoint pixel = MaterialPixel(event->position());
+    const QPoint pixel = MaterialPixel(*event);
     Control& control =
         pressed_ || IsOnMaterial(pixel) ? static_cast<Control&>(form_.picSmall) : form_.PicScroll;
     RunGuarded(form_.ports.dialogs, [&] {
@@ -114,7 +114,7 @@ void MaterialView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void MaterialView::mouseReleaseEvent(QMouseEvent* event) {
-    const QPoint pixel = MaterialPixel(event->position());
+    const QPoint pixel = MaterialPixel(*event);
     const bool clicked =
         std::exchange(pressed_, false) && event->button() == Qt::LeftButton && IsOnMaterial(pixel);
     RunGuarded(form_.ports.dialogs, [&] {

@@ -19,6 +19,9 @@ class MaterialView : public QWidget {
 public:
     MaterialView(FrmPicX& form, QWidget* parent);
 
+    void SetUsualHeight(int height) { usualHeight_ = height; }
+    QSize sizeHint() const override { return {usualHeight_, usualHeight_}; }
+
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -29,13 +32,14 @@ protected:
 
 private:
     void Follow();
-    // The material's pixel at a position; pixels beside it lie outside its size.
-    QPoint MaterialPixel(const QPointF& position) const;
+    // The material's pixel under the mouse; pixels beside it lie outside its size.
+    QPoint MaterialPixel(const QMouseEvent& event) const;
     bool IsOnMaterial(QPoint pixel) const;
 
     FrmPicX& form_;
     Picture shown_;
     QPoint place_; // of the material's first pixel, in device pixels
+    int usualHeight_ = 0;
     bool visible_ = true;
     bool pressed_ = false;
 };

@@ -102,7 +102,7 @@ void SamplingCanvas::PaintHint(QPainter& painter) const {
 void SamplingCanvas::mousePressEvent(QMouseEvent* event) {
     const int button = ButtonNumber(event->button());
     if (button == 0) return;
-    lastPixel_ = DevicePixelAt(*this, event->position());
+    lastPixel_ = DevicePixelAt(*this, *event);
     lastShift_ = ShiftNumber(event->modifiers());
     pressed_ = pressed_ || button == 1;
     RunGuarded(form_.ports.dialogs, [&] {
@@ -112,7 +112,7 @@ void SamplingCanvas::mousePressEvent(QMouseEvent* event) {
 }
 
 void SamplingCanvas::mouseMoveEvent(QMouseEvent* event) {
-    lastPixel_ = DevicePixelAt(*this, event->position());
+    lastPixel_ = DevicePixelAt(*this, *event);
     lastShift_ = ShiftNumber(event->modifiers());
     if (pressed_ && !(event->buttons() & Qt::LeftButton)) return Release(1);
     RunGuarded(form_.ports.dialogs, [&] {
@@ -123,7 +123,7 @@ void SamplingCanvas::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void SamplingCanvas::mouseReleaseEvent(QMouseEvent* event) {
-    lastPixel_ = DevicePixelAt(*this, event->position());
+    lastPixel_ = DevicePixelAt(*this, *event);
     lastShift_ = ShiftNumber(event->modifiers());
     const int button = ButtonNumber(event->button());
     if (button != 0) Release(button);
