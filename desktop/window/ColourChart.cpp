@@ -32,7 +32,7 @@ ColourChart::ColourChart(FrmPicX& form, QWidget* parent)
 }
 
 void ColourChart::mousePressEvent(QMouseEvent* event) {
-    const auto pixel = PixelAt(event->position());
+    const auto pixel = PixelAt(*event);
     pressed_ = pixel && event->button() == Qt::LeftButton;
     if (!pixel) return;
     RunGuarded(form_.ports.dialogs,
@@ -40,14 +40,14 @@ void ColourChart::mousePressEvent(QMouseEvent* event) {
 }
 
 void ColourChart::mouseMoveEvent(QMouseEvent* event) {
-    const auto pixel = PixelAt(event->position());
+    const auto pixel = PixelAt(*event);
     if (!pixel) return;
     RunGuarded(form_.ports.dialogs,
                [&] { form_.Picture2.MouseMove(ArgsAt(*pixel, ButtonNumber(event->buttons()), *event)); });
 }
 
 void ColourChart::mouseReleaseEvent(QMouseEvent* event) {
-    const auto pixel = PixelAt(event->position());
+    const auto pixel = PixelAt(*event);
     const bool clicked = std::exchange(pressed_, false);
     if (!pixel) return;
     RunGuarded(form_.ports.dialogs,
@@ -56,7 +56,7 @@ void ColourChart::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ColourChart::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton || !PixelAt(event->position())) return;
+    if (event->button() != Qt::LeftButton || !PixelAt(*event)) return;
     RunGuarded(form_.ports.dialogs, [&] { form_.Picture2.UserDblClick(); });
 }
 

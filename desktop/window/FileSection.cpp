@@ -17,8 +17,16 @@ namespace mirelle {
 namespace {
 
 constexpr int kPreviewHeight = 56;
+constexpr int kPreviewMost = 120;
 constexpr int kKindWidth = 84;
-constexpr int kListHeight = 88; // at least
+constexpr int kListRows = 2; // at least
+
+// What else stands in the row stays at its place when the widget is hidden.
+void KeepPlace(QWidget& widget) {
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
+}
 
 QComboBox* MakeDrives(Binder& binder, QWidget* parent) {
     auto* drives = new QComboBox(parent);
@@ -26,6 +34,7 @@ QComboBox* MakeDrives(Binder& binder, QWidget* parent) {
     drives->setMinimumContentsLength(1);
     drives->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     drives->setFocusPolicy(Qt::TabFocus);
+    KeepPlace(*drives);
     binder.Drives(binder.TheForm().Drive5, *drives);
     return drives;
 }
@@ -62,14 +71,14 @@ QLayout* FileSection::DriveRow(Parts& parts) {
 QLayout* FileSection::Lists(Parts& parts) {
     FrmPicX& form = parts.Form();
     auto* folders = new RowsView(this);
-    folders->setMinimumHeight(look::kRowHeight * 2);
+    folders->setMinimumHeight(look::kRowHeight * kListRows);
     folders->setItemDelegate(new FolderRows(folders));
     parts.TheBinder().Folders(form.Dir5, *folders);
     auto* files = new RowsView(this);
-    files->setMinimumHeight(kListHeight);
+    files->setMinimumHeight(look::kRowHeight * kListRows);
     parts.TheBinder().Files(form.File5, *files);
     FittedView* preview = parts.Preview(form.Imagex, {kPreviewHeight, kPreviewHeight});
-    preview->setFixedHeight(kPreviewHeight);
+    preview->setMaximumHeight(kPreviewMost); // and less where the lists need the room
     auto* left = Column();
     left->addWidget(folders, 1);
     left->addWidget(preview);
@@ -90,6 +99,8 @@ QLayout* FileSection::KindRow(Parts& parts) {
     look::ElidedLabel* count = parts.Note(form.Label8(46));
     look::IconButton* fullScreen = parts.Button(form.cmdFullScreen);
     FollowWindowState(form, fullScreen);
+    KeepPlace(*kind);
+    KeepPlace(*count);
     auto* row = Row({kind, count, parts.Button(form.Command2), fullScreen});
     row->setStretch(1, 1);
     return row;

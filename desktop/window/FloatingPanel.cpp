@@ -39,11 +39,11 @@ void FloatingPanel::MoveTo(QPoint pixel) {
 }
 
 QPoint FloatingPanel::FormPixel(const QMouseEvent& event) const {
-    return DevicePixelAt(canvas_, canvas_.mapFromGlobal(event.globalPosition()));
+    return DevicePixelAt(canvas_, event);
 }
 
 MouseArgs FloatingPanel::ArgsOf(const QMouseEvent& event) const {
-    const QPoint pixel = DevicePixelAt(*this, event.position());
+    const QPoint pixel = DevicePixelAt(*this, event);
     return {ButtonNumber(event.button() == Qt::NoButton ? event.buttons() : Qt::MouseButtons(event.button())),
             ShiftNumber(event.modifiers()), static_cast<float>(pixel.x()), static_cast<float>(pixel.y())};
 }

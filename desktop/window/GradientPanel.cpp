@@ -14,7 +14,7 @@
 namespace mirelle {
 namespace {
 
-constexpr int kPreviewWidth = 60;
+constexpr int kPreviewWidth = 80;
 constexpr int kPreviewHeight = 44;
 
 } // namespace
@@ -44,6 +44,9 @@ QLayout* GradientPanel::Pictures(Parts& parts) {
     grid->addWidget(parts.Check(form.ckGradPic(1)), 1, 0);
     grid->addWidget(parts.Check(form.ckGradPic(0)), 1, 1);
     grid->addWidget(parts.Check(form.chkStretch), 1, 2);
+    QComboBox* direction = parts.Choice(form.cmbDirection);
+    direction->setAccessibleName(tr("Direction of the gradient"));
+    grid->addWidget(direction, 2, 0, 1, 3);
     return grid;
 }
 
@@ -54,7 +57,7 @@ QLayout* GradientPanel::Fade(Parts& parts) {
     for (CommandButton* button : {&form.cmdGradV(0), &form.cmdGradV(1)})
         buttons->addWidget(parts.Button(*button));
     form.optDirection.ForEach([&](OptionButton& option) { buttons->addWidget(parts.Option(option)); });
-    buttons->addWidget(parts.Choice(form.cmbDirection), 1);
+    buttons->addStretch(1);
     column->addLayout(buttons);
     auto* sliders = Row({parts.Slider(form.hStart), parts.Slider(form.hEnd)}, look::kSpace);
     column->addLayout(sliders);
@@ -77,6 +80,7 @@ QWidget* GradientPanel::FormGradient(Parts& parts) {
     column->setSpacing(look::kSpaceSmall);
     auto* head = Row({caption});
     head->addStretch(1);
+    head->addWidget(inside.Words(tr("Horizontal")));
     head->addWidget(inside.Check(form.ckFormDirection));
     column->addLayout(head);
     auto* grid = new QGridLayout;

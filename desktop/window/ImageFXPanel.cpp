@@ -34,8 +34,7 @@ constexpr std::array kEffects = {
     &FrmPicX::cmdCont33,
 };
 
-constexpr int kSlidersWidth = 132;
-constexpr int kPreviewWidth = 48;
+constexpr int kPreviewWidth = 52;
 
 } // namespace
 
@@ -44,8 +43,11 @@ ImageFXPanel::ImageFXPanel(Binder& binder, QWidget* parent) : Panel(parent) {
     FrmPicX& form = binder.TheForm();
     auto* strip = Row({}, look::kSpaceLarge);
     strip->addLayout(Effects(binder), 1);
-    strip->addLayout(Sliders(parts));
-    strip->addWidget(Keeping(parts), 0, Qt::AlignTop);
+    auto* channels = Column(look::kSpace);
+    channels->addWidget(Keeping(parts));
+    channels->addLayout(Sliders(parts));
+    channels->addStretch(1);
+    strip->addLayout(channels);
     strip->addLayout(Previews(parts));
     Contents().addLayout(strip);
     Bind(binder, form.FrameRGBFX);
@@ -60,7 +62,8 @@ QLayout* ImageFXPanel::Effects(Binder& binder) {
 
 QLayout* ImageFXPanel::Sliders(Parts& parts) {
     FrmPicX& form = parts.Form();
-    constexpr std::array kNames = {"B", "G", "R"}; // by channel: 0 blue, 1 green, 2 red
+    constexpr std::array kLetters = {"B", "G", "R"}; // by channel: 0 blue, 1 green, 2 red
+    const QStringList names = {tr("Shift of blue"), tr("Shift of green"), tr("Shift of red")};
     auto* grid = new QGridLayout;
     grid->setSpacing(look::kSpaceSmall);
     grid->setAlignment(Qt::AlignTop);
@@ -69,9 +72,9 @@ QLayout* ImageFXPanel::Sliders(Parts& parts) {
         label->setAlignment(Qt::AlignCenter);
         parts.TheBinder().Caption(form.LabelRGBx(channel), *label);
         parts.TheBinder().Ink(form.LabelRGBx(channel), *label);
-        label->setText(QString::fromLatin1(kNames[static_cast<std::size_t>(channel)]));
+        label->setText(QString::fromLatin1(kLetters[static_cast<std::size_t>(channel)]));
         QSlider* slider = parts.Slider(form.HSColorShift(channel));
-        slider->setFixedWidth(kSlidersWidth);
+        slider->setAccessibleName(names[channel]);
         grid->addWidget(label, 2 - channel, 0);
         grid->addWidget(slider, 2 - channel, 1);
     }
@@ -83,24 +86,20 @@ QWidget* ImageFXPanel::Keeping(Parts& parts) {
     auto* ground = new Ground(form.FrameRGBFX2, look::kCard, this);
     parts.TheBinder().Panel(form.FrameRGBFX2, *ground);
     Parts inside(parts.TheBinder(), *ground);
-    auto* grid = new QGridLayout(ground);
-    grid->setContentsMargins(look::kSpaceSmall, look::kSpaceSmall, look::kSpaceSmall, look::kSpaceSmall);
-    grid->setSpacing(look::kSpaceSmall);
+    auto* row = new QHBoxLayout(ground);
+    row->setContentsMargins(look::kSpaceSmall, look::kSpaceSmall, look::kSpaceSmall, look::kSpaceSmall);
+    row->setSpacing(look::kSpaceSmall);
     QWidget* const widgets[] = {inside.Button(form.cmdSetMain),        inside.Button(form.cmdSetMain2),
                                 inside.Check(form.ckApplyRGB),         inside.Button(form.cmdRGBUndo),
                                 inside.Button(form.cmdResetRGBSlider), inside.Button(form.cmdCopy)};
-    constexpr int kInARow = 3;
-    int place = 0;
-    for (QWidget* widget : widgets) {
-        grid->addWidget(widget, place / kInARow, place % kInARow, Qt::AlignCenter);
-        ++place;
-    }
+    for (QWidget* widget : widgets)
+        row->addWidget(widget, 0, Qt::AlignCenter);
     return ground;
 }
 
 QLayout* ImageFXPanel::Previews(Parts& parts) {
     FrmPicX& form = parts.Form();
-    auto* previews = Row();
+    auto* previews = Column();
     for (PictureBox* box : {&form.Picture1, &form.picTemp}) {
         FittedView* preview = parts.Preview(*box, {kPreviewWidth, kPreviewWidth});
         preview->setFixedWidth(kPreviewWidth);

@@ -62,7 +62,11 @@ MainWindow::MainWindow(FrmPicX& form)
             [this] { binder_.Run([this] { form_.Activate(); }); });
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+    // Panels hide when they go; nothing is to be placed then.
+    for (Panel* panel : findChildren<Panel*>())
+        panel->disconnect(this);
+}
 
 void MainWindow::BuildPanels() {
     material_ = new MaterialPanel(binder_, this);

@@ -8,6 +8,13 @@
 #include "desktop/window/PalettePanel.h"
 
 namespace mirelle {
+namespace {
+
+// How the Material Image and the file lists part the height that nothing else needs.
+constexpr int kMaterialShare = 1;
+constexpr int kFilesShare = 1;
+
+} // namespace
 
 MaterialPanel::MaterialPanel(Binder& binder, QWidget* parent) : Panel(parent) {
     material_ = new MaterialSection(binder, this);
@@ -16,7 +23,9 @@ MaterialPanel::MaterialPanel(Binder& binder, QWidget* parent) : Panel(parent) {
     Contents().setSpacing(look::kSpace);
     for (QWidget* section : sections)
         Contents().addWidget(section);
-    Contents().addWidget(new FileSection(binder, this), 1);
+    Contents().addWidget(new FileSection(binder, this));
+    Contents().setStretchFactor(material_, kMaterialShare);
+    Contents().setStretch(Contents().count() - 1, kFilesShare);
     Bind(binder, binder.TheForm().Frame4);
 }
 

@@ -15,6 +15,10 @@ namespace mirelle {
 namespace {
 
 constexpr int kViewportHeight = 150;
+constexpr int kViewportLeast = 80;
+// How the full-size view and the thumbnail part the width.
+constexpr int kViewportShare = 5;
+constexpr int kSideShare = 3;
 constexpr int kThumbnailWidth = 96;
 constexpr int kThumbnailHeight = 84;
 
@@ -27,8 +31,8 @@ MaterialSection::MaterialSection(Binder& binder, QWidget* parent) : QWidget(pare
     column->setSpacing(look::kSpaceSmall);
     column->addLayout(Head(parts));
     auto* body = Row({Viewport(parts)}, look::kSpace);
-    body->setStretch(0, 1);
-    body->addLayout(Side(parts));
+    body->setStretch(0, kViewportShare);
+    body->addLayout(Side(parts), kSideShare);
     column->addLayout(body, 1);
 }
 
@@ -50,7 +54,8 @@ QWidget* MaterialSection::Viewport(Parts& parts) {
     parts.TheBinder().Panel(form.FrameMatCanvas, *frame);
     Parts inside(parts.TheBinder(), *frame);
     auto* view = new MaterialView(form, frame);
-    view->setMinimumHeight(kViewportHeight);
+    view->setMinimumHeight(kViewportLeast);
+    view->SetUsualHeight(kViewportHeight);
     parts.TheBinder().ShownElsewhere(form.picSmall);
     parts.TheBinder().ShownElsewhere(form.PicScroll);
     auto* grid = new QGridLayout(frame);
@@ -73,7 +78,7 @@ QLayout* MaterialSection::Side(Parts& parts) {
     auto* room = new QVBoxLayout(frame);
     room->setContentsMargins(1, 1, 1, 1);
     room->addWidget(thumbnail);
-    frame->setFixedWidth(kThumbnailWidth);
+    frame->setMinimumWidth(kThumbnailWidth);
     auto* side = Column();
     side->addWidget(frame, 1);
     for (CheckBox* check : {&form.ckKeep, &form.ckLock, &form.ckOnly})

@@ -2,6 +2,7 @@
 
 #include "desktop/binding/RowsView.h"
 #include "desktop/look/Tokens.h"
+#include "desktop/look/Typeface.h"
 #include "desktop/window/ColourChart.h"
 #include "desktop/window/Ground.h"
 
@@ -15,10 +16,10 @@ namespace mirelle {
 namespace {
 
 constexpr int kSideWidth = 104;
-constexpr int kChartHeight = 96; // at least
-constexpr int kPreviewHeight = 44;
+constexpr int kChartHeight = 64; // at least
+constexpr int kPreviewHeight = 24;
 constexpr int kSlotsInAColumn = 5;
-constexpr int kSlotButton = look::kControlHeight;
+constexpr int kSlotHeight = 22;
 
 } // namespace
 
@@ -58,6 +59,7 @@ QLayout* PalettePanel::ChartAndPreview(Parts& parts) {
     RowsView* record = parts.Rows(form.List1);
     record->setAccessibleName(tr("Sampled colours"));
     record->setFixedWidth(kSideWidth);
+    record->setMinimumHeight(look::kRowHeight);
     auto* side = Column();
     side->addWidget(preview);
     side->addWidget(record, 1);
@@ -71,16 +73,20 @@ QLayout* PalettePanel::Slots(Parts& parts) {
     FrmPicX& form = parts.Form();
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(look::kSpaceSmall);
-    grid->setVerticalSpacing(2);
+    grid->setVerticalSpacing(1);
     constexpr int kColumns = 4; // button, colour, layer, and the gap
     for (int slot = 0; slot < form.Text2x.Count(); ++slot) {
         const int row = slot % kSlotsInAColumn;
         const int column = slot / kSlotsInAColumn * kColumns;
         look::ColorSwatchButton* button = parts.Swatch(form.cmdColor(slot));
-        button->setFixedSize(kSlotButton, kSlotButton);
+        button->setFixedSize(kSlotHeight, kSlotHeight);
         QLineEdit* colour = parts.Field(form.Text2x(slot));
+        colour->setFixedHeight(kSlotHeight);
         QLineEdit* layer = parts.Field(form.TextLayer(slot));
         layer->setAccessibleName(tr("Layer of colour %1").arg(slot + 1));
+        layer->setFixedHeight(kSlotHeight);
+        for (QLineEdit* field : {colour, layer})
+            look::SetTextRank(*field, look::TextRank::Note);
         layer->setMinimumWidth(look::kIcon);
         grid->addWidget(button, row, column);
         grid->addWidget(colour, row, column + 1);
@@ -95,12 +101,12 @@ QLayout* PalettePanel::Slots(Parts& parts) {
 QLayout* PalettePanel::Switches(Parts& parts) {
     FrmPicX& form = parts.Form();
     auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(look::kSpace);
+    grid->setHorizontalSpacing(look::kSpaceLarge);
     grid->setVerticalSpacing(0);
     grid->addWidget(parts.Check(form.ckSample), 0, 0);
-    grid->addWidget(parts.Check(form.Check1), 0, 1);
-    grid->addWidget(parts.Check(form.Check2b), 0, 2);
-    grid->setColumnStretch(3, 1);
+    grid->addWidget(parts.Check(form.Check2b), 0, 1);
+    grid->addWidget(parts.Check(form.Check1), 1, 0);
+    grid->setColumnStretch(2, 1);
     return grid;
 }
 

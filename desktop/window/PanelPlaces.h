@@ -30,6 +30,6 @@ struct PanelNeeds {
 PanelPlaces PlacePanels(const PanelNeeds& needs);
 
 // The least client area in which everything can be reached.
-constexpr QSize kLeastWindow{1000, 620};
+constexpr QSize kLeastWindow{1000, 660};
 
 } // namespace mirelle

@@ -30,8 +30,10 @@ SendPanel::SendPanel(Binder& binder, QWidget* parent) : Panel(parent) {
             parts.Option(unit, QString::fromLatin1(kUnits[static_cast<std::size_t>(unit.Index())])));
     });
     Contents().addStretch(1);
-    for (CommandButton* button :
-         {&form.cmdMat2Corvane, &form.Command18(0), &form.Command18(1), &form.cmdGetCorvane(0)})
+    QWidget* toFaces = parts.Button(form.cmdMat2Corvane);
+    toFaces->setAccessibleName(tr("Send the material name")); // its tip comes with the mouse
+    Contents().addWidget(toFaces, 0, Qt::AlignHCenter);
+    for (CommandButton* button : {&form.Command18(0), &form.Command18(1), &form.cmdGetCorvane(0)})
         Contents().addWidget(parts.Button(*button), 0, Qt::AlignHCenter);
     Bind(binder, form.Frame6);
 }
