@@ -8,11 +8,9 @@
 
 #include "forms/Picture.h"
 #include "forms/Variant.h"
-#include "fx/fast/ContrastLine.h"
-#include "fx/FormChoice.h"
 
+#include <array>
 #include <cstdint>
-#include <optional>
 #include <span>
 
 namespace mirelle {
@@ -26,7 +24,7 @@ std::int16_t GetBlue(Color color);
 // once for each of its 256 values.
 class Contrast {
 public:
-    explicit Contrast(const Variant& percent, FXForm form = ChosenFXForm());
+    explicit Contrast(const Variant& percent);
 
     std::uint8_t operator()(std::uint8_t channel) const { return table_[channel]; }
 
@@ -35,9 +33,7 @@ public:
     void Apply(std::span<const Pixel> source, std::span<Pixel> destination) const;
 
 private:
-    fast::ContrastTable table_{};
-    // What the fast form follows instead of the table.
-    std::optional<fast::ContrastLine> line_;
+    std::array<std::uint8_t, 256> table_{};
 };
 
 } // namespace mirelle

@@ -37,8 +37,7 @@ void CountAcSymbolsOfBlock(const std::int16_t* values, std::uint64_t nonZero, Co
         int run = k - last - 1;
         for (; run > 15; run -= 16)
             ++counts[0xF0];
-        const int symbol = run * 16 + BitLengthOfNonZero(values[k]);
-        ++counts[static_cast<std::size_t>(symbol)];
+        ++counts[static_cast<std::size_t>(run * 16 + BitLengthOfNonZero(values[k]))];
         last = k;
     }
     if (last != 63) ++counts[0];

@@ -1,0 +1,137 @@
+// The Material Image in its view, at a place where the scale factor leaves fractions of pixels.
+#include "desktop/canvas/MaterialView.h"
+#include "desktop/canvas/FittedView.h"
+#include "tests/desktop/Mouse.h"
+#include "tests/desktop/Pixels.h"
+#include "tests/support/Patterns.h"
+#include "tests/support/TestPictures.h"
+#include "tests/support/TestProgram.h"
+
+#include <gmock/gmock.h>
+
+#include <QMouseEvent>
+
+namespace mirelle::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::Pair;
+
+struct MaterialViewTest : testing::Test {
+    MaterialViewTest() {
+        window.resize(400, 300);
+        view.setGeometry(13, 7, 160, 120);
+        window.show();
+        QCoreApplication::processEvents();
+    }
+
+    TestProgram program;
+    FrmPicX& form = program.form;
+    QWidget window;
+    MaterialView view{form, &window};
+    Mouse mouse{view};
+};
+
+TEST_F(MaterialViewTest, PaintsOnePixelToOneDevicePixel) {
+    form.picSmall.Picture = Picture(NoiseBitmap(90, 60, 5));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Differing(Painted(view), {0, 0}, form.picSmall.Picture().Pixels()), 0);
+}
+
+TEST_F(MaterialViewTest, TheScrollBarsMoveItByWholePixels) {
+    form.picSmall.Picture = ChartPicture(900, 700);
+    form.HSImage.Value = 37;
+    form.VSImage.Value = 11;
+    QCoreApplication::processEvents();
+    const QImage painted = Painted(view);
+    const Bitmap chart = Chart(900, 700);
+    for (const QPoint pixel : {QPoint(0, 0), QPoint(50, 40), QPoint(150, 100)})
+        EXPECT_EQ(PixelAt(painted, pixel.x(), pixel.y()), chart.At(37 + pixel.x(), 11 + pixel.y()));
+}
+
+TEST_F(MaterialViewTest, TheMouseTellsTheMaterialsOwnPixel) {
+    form.picSmall.Picture = ChartPicture(900, 700);
+    form.HSImage.Value = 37;
+    form.VSImage.Value = 11;
+    QCoreApplication::processEvents();
+    std::vector<std::pair<float, float>> told;
+    form.picSmall.MouseMove.Connect([&](const MouseArgs& args) { told.emplace_back(args.x, args.y); });
+    mouse.Move({5, 6});
+    mouse.Move({21, 33});
+    EXPECT_THAT(told, ElementsAre(Pair(42, 17), Pair(58, 44)));
+}
+
+TEST_F(MaterialViewTest, APressSamplesTheColourUnderThePointer) {
+    form.FramePics.Visible = true;
+    form.picSmall.Picture = ChartPicture(200, 200, 9);
+    QCoreApplication::processEvents();
+    mouse.Press({77, 31});
+    mouse.Release({77, 31});
+    EXPECT_EQ(form.Frame2.BackColor, RGB(9, 31, 77));
+}
+
+TEST_F(MaterialViewTest, BesideTheMaterialTheBackgroundIsMeant) {
+    form.picSmall.Picture = ChartPicture(40, 30);
+    QCoreApplication::processEvents();
+    int onMaterial = 0;
+    int onGround = 0;
+    form.picSmall.MouseMove.Connect([&](const MouseArgs&) { ++onMaterial; });
+    form.PicScroll.MouseMove.Connect([&](const MouseArgs&) { ++onGround; });
+    mouse.Move({39, 29});
+    mouse.Move({40, 29});
+    mouse.Move({39, 30});
+    EXPECT_EQ(onMaterial, 1);
+    EXPECT_EQ(onGround, 2);
+}
+
+TEST_F(MaterialViewTest, HidingTheMaterialShowsTheBackground) {
+    form.picSmall.Picture = ChartPicture(200, 200);
+    form.PicScroll.BackColor = 0x112233;
+    form.picSmall.Visible = false;
+    QCoreApplication::processEvents();
+    EXPECT_EQ(PixelAt(Painted(view), 5, 5), PixelOf(0x112233));
+}
+
+std::optional<QPoint> PixelUnder(const FittedView& view, QPointF place) {
+    const QPointF inWindow = view.mapTo(view.window(), place);
+    return view.PixelAt(
+        QMouseEvent(QEvent::MouseMove, place, inWindow, inWindow, Qt::NoButton, Qt::NoButton, {}));
+}
+
+TEST(FittedView, KeepsProportionsAndTellsThePicturesOwnPixels) {
+    TestProgram program;
+    FrmPicX& form = program.form;
+    QWidget window;
+    window.resize(300, 300);
+    FittedView* view = FittedView::Of(form.Picture2, &window);
+    view->setGeometry(0, 0, 100, 100);
+    form.Picture2.Picture = ChartPicture(1000, 500);
+    window.show();
+    QCoreApplication::processEvents();
+    const auto middle = PixelUnder(*view, {50, 50});
+    ASSERT_TRUE(middle);
+    EXPECT_NEAR(middle->x(), 500, 10);
+    EXPECT_NEAR(middle->y(), 250, 10);
+    EXPECT_FALSE(PixelUnder(*view, {50, 5})) << "above the picture";
+    view->SetFilling(true);
+    EXPECT_TRUE(PixelUnder(*view, {50, 5}));
+}
+
+TEST(FittedView, APictureThatFitsIsShownAsItIs) {
+    TestProgram program;
+    FrmPicX& form = program.form;
+    QWidget window;
+    window.resize(300, 300);
+    FittedView* view = FittedView::Of(form.Picture2, &window);
+    view->setGeometry(0, 0, 200, 200);
+    form.Picture2.Picture = Picture(NoiseBitmap(80, 80, 6));
+    window.show();
+    QCoreApplication::processEvents();
+    const QSize room = DeviceSize(*view);
+    EXPECT_EQ(Differing(Painted(*view), {(room.width() - 80) / 2, (room.height() - 80) / 2},
+                        form.Picture2.Picture().Pixels()),
+              0);
+}
+
+} // namespace
+} // namespace mirelle::test

@@ -1,0 +1,77 @@
+// Filters of open dialogs, the program's folder, the clock and the pump.
+#include "desktop/system/FileFilter.h"
+#include "desktop/system/HomeFolder.h"
+#include "desktop/system/QtEventPump.h"
+#include "desktop/system/WindowKeyboard.h"
+
+#include <gmock/gmock.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QTest>
+#include <QTime>
+#include <QTimer>
+#include <QWidget>
+
+namespace mirelle::test {
+namespace {
+
+TEST(FileFilter, BecomesOneEntryForEachPair) {
+    EXPECT_EQ(
+        NameFilters("JPG Files (*.jpeg;*.jpg)|*.jpeg;*.jpg|Bmp Files (*.bmp)|*.bmp|Gif Files (*.gif)|*.gif)"),
+        QStringList({"JPG Files (*.jpeg *.jpg)", "Bmp Files (*.bmp)", "Gif Files (*.gif))"}));
+    EXPECT_EQ(NameFilters(""), QStringList());
+    EXPECT_EQ(NameFilters("All|*.*|Odd"), QStringList({"All (*.*)"}));
+}
+
+TEST(HomeFolder, IsTheOneNamedOrTheProgramsOwn) {
+    EXPECT_EQ(HomeFolder({"mirelle", "--home", "/tmp/there/"}), "/tmp/there");
+    EXPECT_EQ(HomeFolder({"mirelle"}), QCoreApplication::applicationDirPath().toStdString());
+    EXPECT_EQ(HomeFolder({"mirelle", "--home"}), QCoreApplication::applicationDirPath().toStdString());
+}
+
+TEST(EventPump, TellsTheSecondsSinceMidnight) {
+    QtEventPump pump;
+    const double before = QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
+    const double told = pump.Timer();
+    const double after = QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
+    if (after < before) GTEST_SKIP() << "midnight passed";
+    EXPECT_GE(told, before);
+    EXPECT_LE(told, after);
+}
+
+TEST(EventPump, RunsWhatWaits) {
+    QtEventPump pump;
+    for (const PumpSite site : {PumpSite::Handler, PumpSite::Pause, PumpSite::Pass}) {
+        bool ran = false;
+        QTimer::singleShot(0, qApp, [&] { ran = true; });
+        pump.DoEvents(site);
+        EXPECT_TRUE(ran);
+    }
+}
+
+TEST(EventPump, TellsThatAPauseIsUnderWayUntilTheLastOneEnds) {
+    QtEventPump pump;
+    std::vector<bool> busy;
+    QObject::connect(&pump, &QtEventPump::Busy, qApp, [&](bool now) { busy.push_back(now); });
+    pump.PauseBegins(1);
+    pump.PauseBegins(1.25);
+    pump.PauseEnds();
+    EXPECT_EQ(busy, std::vector<bool>({true}));
+    pump.PauseEnds();
+    EXPECT_EQ(busy, std::vector<bool>({true, false}));
+}
+
+TEST(WindowKeyboard, TellsEscapeOnce) {
+    WindowKeyboard keyboard(qApp);
+    QWidget widget;
+    EXPECT_FALSE(keyboard.EscapeWentDown());
+    QTest::keyClick(&widget, Qt::Key_A);
+    EXPECT_FALSE(keyboard.EscapeWentDown());
+    QTest::keyClick(&widget, Qt::Key_Escape);
+    EXPECT_TRUE(keyboard.EscapeWentDown());
+    EXPECT_FALSE(keyboard.EscapeWentDown());
+}
+
+} // namespace
+} // namespace mirelle::test
