@@ -5,9 +5,11 @@
 //     cmake --preset bench && cmake --build build/bench --target codecs_bench
 //     build/bench/bench/codecs/codecs_bench
 //
-// Columns: `foreign_ms` is the foreign encoder's time, `ratio` ours over that (below 1: we are faster),
-// `bytes` and `foreign_bytes` the sizes of the files. Times are medians. After the timing the file has to be
-// the plain encoder's, byte for byte.
+// Columns: `median_ms` is our time, `foreign_ms` the foreign encoder's, `ratio` ours over that (below 1: we
+// are faster), `cpu_ratio` the same of the processor's time in all threads, which other work on the machine
+// disturbs less; `bytes` and `foreign_bytes` are the sizes of the files. Google Benchmark's own CPU column
+// counts both encoders, as far as they run in the first thread. After the timing the file has to be the plain
+// encoder's, byte for byte.
 #include "codecs/cJPEG.h"
 #include "tests/codecs/LibJpeg.h"
 #include "tests/codecs/reference/PlainJpeg.h"
