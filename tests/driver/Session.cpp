@@ -11,8 +11,24 @@ constexpr const char* kMainForm = "Form";
 } // namespace
 
 void Session::Start() {
+    MakeProgram();
+    ShowMainForm();
+}
+
+void Session::ShowSplash() {
+    MakeProgram();
+    sampler_->splash.Finished.Connect([this] { ShowMainForm(); });
+    splashShown_ = true;
+    sampler_->splash.Load();
+}
+
+void Session::MakeProgram() {
     if (sampler_) throw UsageError("the program has started already");
     sampler_.emplace(desktop.PortsOver(host_.files, host_.loader, host_.encoders));
+}
+
+void Session::ShowMainForm() {
+    mainFormShown_ = true;
     FrmPicX& form = sampler_->form;
     form.Load();
     form.Visible = true;
@@ -20,16 +36,20 @@ void Session::Start() {
 }
 
 Form* Session::FindForm(const Reference& reference) {
-    return reference.name == kMainForm && reference.index < 0 ? &MainForm() : nullptr;
+    if (reference.index >= 0) return nullptr;
+    if (reference.name == kMainForm) return &MainForm();
+    for (Form* form : Forms()) {
+        if (form != &sampler_->form && form->Name() == reference.name) return form;
+    }
+    return nullptr;
 }
 
 FrmPicX& Session::MainForm() {
-    if (!sampler_) throw UsageError("there is no form before start");
+    if (!mainFormShown_) throw UsageError("there is no main form before the start");
     return sampler_->form;
 }
 
 Control& Session::ControlOf(const Reference& reference) {
-    MainForm();
     for (Form* form : Forms()) {
         if (Control* control = form->Find(reference.name, reference.index)) return *control;
     }
@@ -37,8 +57,10 @@ Control& Session::ControlOf(const Reference& reference) {
 }
 
 std::vector<Form*> Session::Forms() {
-    if (!sampler_) return {};
-    return {&sampler_->form};
+    std::vector<Form*> forms;
+    if (mainFormShown_) forms = {&sampler_->form, &sampler_->manual};
+    if (splashShown_) forms.push_back(&sampler_->splash);
+    return forms;
 }
 
 } // namespace mirelle::driver

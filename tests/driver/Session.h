@@ -25,15 +25,17 @@ class Session {
 public:
     explicit Session(Host host) : host_(std::move(host)) {}
 
-    // Makes the form and runs Load, then the first Activate.
+    // Makes the program and shows the main form: Load, then the first Activate.
     void Start();
+    // Makes the program and shows the splash, which shows the main form in its time.
+    void ShowSplash();
     // The form of that name, null where the name is not a form's. Throws UsageError where it is not there
     // yet.
     Form* FindForm(const Reference& reference);
     FrmPicX& MainForm();
     // Throws UsageError where no form has such a control.
     Control& ControlOf(const Reference& reference);
-    // Every form that is there.
+    // Every form that has been loaded.
     std::vector<Form*> Forms();
 
     NamedFiles& Files() { return host_.files; }
@@ -43,8 +45,13 @@ public:
     int usageErrors = 0; // so far
 
 private:
+    void MakeProgram();
+    void ShowMainForm();
+
     Host host_;
     std::optional<Sampler> sampler_;
+    bool splashShown_ = false;
+    bool mainFormShown_ = false;
 };
 
 } // namespace mirelle::driver

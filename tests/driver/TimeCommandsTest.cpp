@@ -44,6 +44,47 @@ TEST_F(TimeCommands, TheClockFallsBackToZeroAtMidnight) {
     EXPECT_EQ(Desktop().pump.Timer(), 0.5);
 }
 
+TEST(SplashCommand, ShowsTheSplashWhichMakesWayForTheMainForm) {
+    TestConversation say;
+    EXPECT_EQ(say("splash"), "ok");
+    EXPECT_EQ(say("get frmSplasholaSUNDIAL.Caption"), R"(ok "About Mirelle")");
+    EXPECT_EQ(say("get Timer1.Interval"), "ok 100");
+    EXPECT_EQ(say("get Timer1.Enabled"), "ok true");
+    EXPECT_THAT(say("get Form.Caption"), testing::StartsWith("error usage "));
+    EXPECT_THAT(say("start"), testing::StartsWith("error usage "));
+    EXPECT_EQ(say("advance 1000"), "ok");
+    EXPECT_EQ(say("get frmSplasholaSUNDIAL.Visible"), "ok true");
+    EXPECT_EQ(say("click Label1"), "ok");
+    EXPECT_EQ(say("advance 5000"), "ok");
+    EXPECT_EQ(say("get frmSplasholaSUNDIAL.Visible"), "ok true");
+    EXPECT_EQ(say("click frmSplasholaSUNDIAL"), "ok");
+    EXPECT_EQ(say("advance 99"), "ok");
+    EXPECT_EQ(say("get frmSplasholaSUNDIAL.Visible"), "ok true");
+    EXPECT_EQ(say("advance 1"), "ok");
+    EXPECT_EQ(say("get frmSplasholaSUNDIAL.Visible"), "ok false");
+    EXPECT_EQ(say("get Form.Visible"), "ok true");
+    EXPECT_EQ(say("get Combo5.ListIndex"), "ok 0");
+}
+
+TEST_F(TimeCommands, ThePassedOverSplashIsNotThere) {
+    EXPECT_THAT(say("get frmSplasholaSUNDIAL.Caption"), testing::StartsWith("error usage "));
+    EXPECT_EQ(say("set Form.Caption other"), "ok");
+    EXPECT_EQ(say("advance 2000"), "ok");
+    EXPECT_EQ(say("get Form.Caption"), R"(ok "other")");
+}
+
+TEST_F(TimeCommands, TheManualsFormOpensAndCloses) {
+    EXPECT_EQ(say("click cmdGetCorvane(0)"), "ok");
+    EXPECT_EQ(say("get zFormUM.Visible"), "ok true");
+    EXPECT_EQ(say("get Form.WindowState"), "ok 1");
+    EXPECT_EQ(say("click Command1(1)"), "ok");
+    EXPECT_EQ(say("opened"), R"(ok [["C:\\Mirelle\\Support\\Mirelle1UserManual1.pdf","C:\\",0]])");
+    EXPECT_EQ(say("close zFormUM"), "ok");
+    EXPECT_EQ(say("get zFormUM.Visible"), "ok false");
+    EXPECT_EQ(say("get Form.WindowState"), "ok 0");
+    EXPECT_FALSE(say.conversation.Ended());
+}
+
 TEST_F(TimeCommands, OneLinedUpCommandRunsInEachPause) {
     FrmPicX& form = say.Form();
     form.Command5.Click.Connect([this] { Pause(1); });

@@ -15,6 +15,11 @@ std::string Start(Session& session, Words) {
     return {};
 }
 
+std::string ShowSplash(Session& session, Words) {
+    session.ShowSplash();
+    return {};
+}
+
 std::string Activate(Session& session, Words) {
     session.MainForm().Activate();
     return {};
@@ -64,6 +69,7 @@ std::string Quit(Session&, Words) {
 
 constexpr std::array kCommands = {
     Command{"start", "", 0, 0, Start},
+    Command{"splash", "", 0, 0, ShowSplash},
     Command{"activate", "", 0, 0, Activate},
     Command{"window", "normal|maximized|minimized [W H]", 1, 3, Window},
     Command{"close", "[FORM]", 0, 1, Close},
