@@ -1,10 +1,12 @@
 // Runs routines that no control reaches, as their callers would.
 #include "bridge/UncalledSends.h"
 #include "codecs/modGDIPlus.h"
-#include "forms/PictureBox.h"
+#include "gradient/FormGradient.h"
+#include "gradient/HexRGB.h"
 #include "tests/driver/Commands.h"
 #include "tests/driver/Errors.h"
-#include "tests/driver/Json.h"
+#include "tests/driver/Holders.h"
+#include "tests/driver/Values.h"
 
 #include <array>
 
@@ -19,6 +21,25 @@ std::string ApplyMaterial(Session& session, Words) {
 std::string SendAfterSave(Session& session, Words) {
     SendMaterialAfterSave(session.MainForm());
     return {};
+}
+
+std::string PaintGradient(Session& session, Words words) {
+    const auto color = [words](std::size_t word) { return Read<std::int16_t>(words[word]); };
+    const GradientColors colors{color(1), color(2), color(3), color(4), color(5), color(6)};
+    const bool across = session.MainForm().ckFormDirection.Value == kChecked;
+    WithHolder(session, ReferenceIn(words[0]), [&](auto& holder) {
+        if constexpr (requires { holder.Paint(); }) {
+            ResumeNext([&] { PaintFormGradient(holder.Paint(), colors, across); });
+        } else {
+            throw UsageError(JsonString(words[0]) + " has no surface");
+        }
+    });
+    return {};
+}
+
+std::string Hex(Session&, Words words) {
+    return JsonString(
+        HexRGB(Read<std::int16_t>(words[0]), Read<std::int16_t>(words[1]), Read<std::int16_t>(words[2])));
 }
 
 // `call SaveImageGDIPlus HOLDER FILE`, between the start and the stop that its caller puts around it.
@@ -38,6 +59,8 @@ std::string SaveImage(Session& session, Words words) {
 // A routine is run like a command: its name, then its arguments.
 constexpr std::array kRoutines = {
     Command{"ApplyMaterialToLayerFaces", "", 0, 0, ApplyMaterial},
+    Command{"FormGradient", "HOLDER R1 G1 B1 R2 G2 B2", 7, 7, PaintGradient},
+    Command{"HexRGB", "R G B", 3, 3, Hex},
     Command{"SaveImageGDIPlus", "HOLDER FILE", 2, 2, SaveImage},
     Command{"SendMaterialAfterSave", "", 0, 0, SendAfterSave},
 };

@@ -1,3 +1,4 @@
+#include "gradient/FormGradient.h"
 #include "tests/driver/TestConversation.h"
 #include "tests/support/Patterns.h"
 
@@ -45,6 +46,27 @@ TEST_F(CallCommands, SaveTheAssignedPictureOrElseTheImage) {
     EXPECT_EQ(say.encoders.starts, 2);
     EXPECT_EQ(say.encoders.stops, 2);
     EXPECT_EQ(say("call SaveImageGDIPlus picSmall /tmp/b.psd"), "ok false");
+}
+
+TEST_F(CallCommands, PaintTheFormGradientOnAnyHolder) {
+    PictureBox& box = say.Form().PicImage;
+    box.Move(0, 0, 20, 30);
+    EXPECT_EQ(say("call FormGradient PicImage 200 100 50 10 20 30"), "ok");
+    const GradientColors colors{200, 100, 50, 10, 20, 30};
+    Bitmap expected(20, 30);
+    PaintFormGradient(expected, colors, false);
+    EXPECT_EQ(box.Image().Pixels(), expected);
+    say("set ckFormDirection.Value 1");
+    EXPECT_EQ(say("call FormGradient PicImage 200 100 50 10 20 30"), "ok");
+    PaintFormGradient(expected, colors, true);
+    EXPECT_EQ(box.Image().Pixels(), expected);
+    EXPECT_THAT(say("call FormGradient Image1 1 2 3 4 5 6"), StartsWith("error usage "));
+    EXPECT_THAT(say("call FormGradient PicImage 1 2 3 4 5"), StartsWith("error usage "));
+    EXPECT_EQ(say("call FormGradient PicImage 1 2 3 4 5 40000"), "error run-time 6 Overflow");
+}
+
+TEST_F(CallCommands, TellAColourInHexadecimal) {
+    EXPECT_EQ(say("call HexRGB 255 128 0"), R"(ok "&H0080FF&")");
 }
 
 TEST(NamedFilesTest, LeadOneNameToTheMachineForAWhile) {

@@ -1,8 +1,8 @@
 // Commands for the picture holders.
-#include "forms/PictureBox.h"
 #include "tests/driver/Commands.h"
 #include "tests/driver/Dump.h"
 #include "tests/driver/Errors.h"
+#include "tests/driver/Holders.h"
 #include "tests/driver/Json.h"
 #include "tests/driver/Values.h"
 
@@ -10,16 +10,6 @@
 
 namespace mirelle::driver {
 namespace {
-
-// Does something to a holder of whatever kind: the form, a picture box or an image.
-template <class Action>
-auto WithHolder(Session& session, const Reference& reference, Action action) {
-    if (Form* form = session.FindForm(reference)) return action(*form);
-    Control& control = session.ControlOf(reference);
-    if (auto* box = dynamic_cast<PictureBox*>(&control)) return action(*box);
-    if (auto* image = dynamic_cast<ImageControl*>(&control)) return action(*image);
-    throw UsageError(JsonString(TextOf(reference)) + " holds no picture");
-}
 
 std::string Load(Session& session, Words words) {
     WithHolder(session, ReferenceIn(words[0]),
