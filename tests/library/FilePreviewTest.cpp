@@ -178,6 +178,7 @@ TEST_F(FilePreviewTest, FormAsCanvasTakesTheFormsImage) {
     form.ckUseFormCanvas.Value = kChecked;
     form.Picture = former;
     form.PicImage.Picture = former;
+    form.Picture3.Picture = former;
     program.ClickNewPicture("b.jpg");
     for (const PictureBox* box : {&form.PicImage, &form.Picture3}) {
         EXPECT_EQ(box->Picture().Width(), form.ClientWidth()) << box->Name();

@@ -122,6 +122,14 @@ TEST_F(IncrementCounterTest, DownAtZeroStaysThereAndRenamesAllTheSame) {
     EXPECT_EQ(form.textProfileName.Text(), "Metal_0");
 }
 
+TEST_F(IncrementCounterTest, DownAtZeroRenamesWithTheCounterThatTheBoxDoesNotShow) {
+    form.textProfileName.Text = "Art_12";
+    form.IncrementCounter = Integer(8);
+    form.UpDown4.UserDown();
+    EXPECT_EQ(form.TextLoops.Text(), "8");
+    EXPECT_EQ(form.textProfileName.Text(), "Art_8");
+}
+
 TEST_F(IncrementCounterTest, DownBeforeAnyCountRenamesWithZero) {
     form.textProfileName.Text = "Art_12";
     form.UpDown4.UserDown();
