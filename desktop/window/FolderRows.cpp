@@ -28,10 +28,12 @@ void FolderRows::paint(QPainter* painter, const QStyleOptionViewItem& option,
     QStyle* style = option.widget ? option.widget->style() : QApplication::style();
     style->drawControl(QStyle::CE_ItemViewItem, &row, painter, option.widget);
 
-    const int depth = index.data(FolderModel::kDepthRole).toInt();
-    const int left = option.rect.left() + look::kSpaceSmall + kStep * std::min(depth, kMostSteps);
-    const QRect folder(left, option.rect.center().y() - kFolder / 2 + 1, kFolder, kFolder);
     const bool open = index.data(FolderModel::kOpenRole).toBool();
+    const int depth = index.data(FolderModel::kDepthRole).toInt();
+    // What lies inside the present folder stands a step further in than it, however deep that is.
+    const int steps = open ? std::min(depth, kMostSteps) : std::min(depth - 1, kMostSteps) + 1;
+    const int left = option.rect.left() + look::kSpaceSmall + kStep * steps;
+    const QRect folder(left, option.rect.center().y() - kFolder / 2 + 1, kFolder, kFolder);
     const QColor ink = QColor::fromRgb(open ? look::kAccentText : look::kTextQuiet);
     look::PaintFitted(*painter, look::IconDrawing(u"folder"), folder, ink);
 

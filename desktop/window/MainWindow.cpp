@@ -85,6 +85,7 @@ void MainWindow::BuildPanels() {
 
 void MainWindow::Start() {
     activations_.NoteFirst();
+    canvas_->setFocus(); // keys are the program's until a field is chosen
     show();
     TellForm();
     form_.Visible = true;
