@@ -112,7 +112,8 @@ void SetSizes(FrmPicX& form) {
         box->Move(0, 0, 68, 68);
     for (PictureBox* box :
          {&form.pic1grad, &form.pic2grad, &form.picDest, &form.Picture5, &form.PicSwap1, &form.PicSwap2}) {
-        box->Move(0, 0, 1020, 1020);
+        // As large as most pictures, so that the end slider still stands at the far edge when one comes.
+        box->Move(0, 0, 1020 * kTwipsPerPixel, 1020 * kTwipsPerPixel);
     }
     form.Picture2.Move(0, 0, 245, 200);
     form.Frame4.Move(338, -1, 270, 441);

@@ -56,7 +56,8 @@ void BatchSend::SendList() {
 
 void BatchSend::SendRow(RubyConsoleLink& link, const std::string& row) {
     const auto parts = Split(row, std::string(1, form_.ports.files.Separator()));
-    const std::string last = parts.empty() ? std::string() : Trim(parts.back());
+    if (parts.empty()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+    const std::string last = Trim(parts.back());
     form_.textProfileName.Text = Trim(Left(last, Len(last) - kExtensionLength));
     // Every occurrence of the last part goes, and one comes back at the end.
     const LineFields fields = MaterialFields(form_, Replace(row, last, "") + last);

@@ -59,7 +59,8 @@ void MaterialPreview::MakeHandCopy() {
 
 // The first free slot from 1 on takes the colour; slot 0 belongs to the preview frame.
 void MaterialPreview::SampleColor(float x, float y) {
-    const Color color = form_.picSmall.Point(x, y);
+    Color color = 0;
+    ResumeNext([&] { color = form_.picSmall.Point(x, y); });
     form_.Frame2.BackColor = color;
     const ColorParts parts = PartsOf(color);
     form_.List1.AddItem(ColorText(parts));
@@ -72,7 +73,7 @@ void MaterialPreview::SampleColor(float x, float y) {
 }
 
 void MaterialPreview::MouseMove(const MouseArgs& mouse) {
-    form_.Frame2.BackColor = form_.picSmall.Point(mouse.x, mouse.y);
+    ResumeNext([&] { form_.Frame2.BackColor = form_.picSmall.Point(mouse.x, mouse.y); });
     form_.Caption = App::Title;
     form_.picSmall.ToolTipText =
         form_.FramePics.Visible

@@ -22,8 +22,11 @@ constexpr std::size_t kLongestComment = 65535;
 constexpr std::int32_t kSamplePrecision = 8;
 constexpr int kPixelBytes = 3;
 
-// Room beside the estimate of the scans: the segments, and what the estimate falls short.
+// Room beside the estimate of the scans for the segments.
 constexpr int kRoomForSegments = 1000;
+// The estimate leaves out a bit of every code, so that an area of one colour counts nothing, and some of the
+// bits behind long values. What it falls short is less than two bytes a coefficient.
+constexpr std::size_t kRoomForCoefficient = 2;
 
 // The working bitmap of a surface's picture has 24 bits a pixel, and its bytes are counted in 32 bits.
 bool CanBeMade(int w8, int h8) {
@@ -129,7 +132,10 @@ int cJPEG::SaveFileJPG(const std::string& fileName, FileSystem& files) {
     // The last index of the buffer, so that it holds one byte more.
     const Long last =
         estimate * Long(2) + Long(kRoomForSegments) + Long(static_cast<int>(commentBytes_.size()));
-    jpeg::OutBuffer out(static_cast<std::size_t>(last.Value()) + 1);
+    std::size_t coefficients = 0;
+    for (const auto& component : frame_.Components)
+        coefficients += component.Coefficients.Size();
+    jpeg::OutBuffer out(static_cast<std::size_t>(last.Value()) + 1 + kRoomForCoefficient * coefficients);
     WriteFile(out, groups, tables);
     files.WriteFile(fileName, out.Written());
     return kDone;

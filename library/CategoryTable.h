@@ -6,7 +6,7 @@
 namespace mirelle {
 
 // Below the program's own folder; row i belongs to cmdMatDirs(i).
-constexpr std::array kCategoryFolders = {
+inline constexpr std::array kCategoryFolders = {
     "Support/Materials/Art/",   "Support/Materials/Fractal/",      "Support/Materials/Graffiti/",
     "Support/Materials/Metal/", "Support/Materials/Color/",        "Support/Materials/Gradient/",
     "Support/Materials/Bio/",   "Support/Materials/Architecture/", "Support/Materials/Industrial/",

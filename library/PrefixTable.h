@@ -10,7 +10,7 @@ struct PrefixRow {
     const char* folder; // below the program's own folder
 };
 
-constexpr std::array kPrefixes = {
+inline constexpr std::array kPrefixes = {
     PrefixRow{"BldgFace_", "Support/Materials/"},
     PrefixRow{"Art_", "Support/Materials/Art/"},
     PrefixRow{"Fractal_", "Support/Materials/Fractal/"},

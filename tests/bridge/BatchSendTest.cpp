@@ -140,6 +140,15 @@ TEST_F(BatchSendTest, ASecondClickInsideAPauseSendsNested) {
                              shell, "SendKeys " + kFaceText}));
 }
 
+TEST_F(BatchSendTest, ASuperBatchListClearedInAPauseEndsTheRunSilently) {
+    form.List2.AddItem("C:\\a.jpg");
+    form.List2.AddItem("C:\\b.jpg");
+    program.desktop.time.duringPause.push_back([&] { form.Command15.UserClick(); });
+    form.Command13.Click();
+    EXPECT_EQ(Sent().back(), "Pause 1.25");
+    EXPECT_TRUE(program.desktop.dialogs.messages.empty());
+}
+
 TEST_F(BatchSendTest, AListThatShrinksInAPauseEndsTheRunSilently) {
     program.files.AddFile("C:\\Mat\\a.jpg");
     program.files.AddFile("C:\\Mat\\b.jpg");

@@ -22,8 +22,8 @@ TEST_P(FitThumbnailTest, GivesTheToldSize) {
     program.form.picSmall.Width = row.materialWidth;
     program.form.picSmall.Height = row.materialHeight;
     FitThumbnail(program.form, row.startWidth, row.startHeight);
-    EXPECT_FLOAT_EQ(program.form.Image1.Width, row.width);
-    EXPECT_FLOAT_EQ(program.form.Image1.Height, row.height);
+    EXPECT_EQ(program.form.Image1.Width, row.width);
+    EXPECT_EQ(program.form.Image1.Height, row.height);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -34,6 +34,7 @@ INSTANTIATE_TEST_SUITE_P(
                       Row{"WidthAbove650IsTakenAgain", 900, 200, 810, 180, 360, 80},
                       Row{"HeightOfExactly350Stays350UntilTheLastLimit", 400, 350, 400, 350, 400, 300},
                       Row{"TallMaterialIsShrunkByItsHeight", 300, 1000, 270, 900, 120, 300},
+                      Row{"FactorsAreNotRoundedAheadOfTheProduct", 361, 900, 325, 810, 144.4F, 300},
                       Row{"NoMaterialAtAll", 0, 0, 0, 0, 0, 0},
                       Row{"OddSizesKeepTheirFractions", 71, 33, 35.5F, 16.5F, 106.5F, 49.5F}),
     [](const auto& row) { return row.param.name; });

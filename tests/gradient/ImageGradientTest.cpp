@@ -53,6 +53,7 @@ TEST_F(ImageGradientTest, FadesDownAndMakesTheResultTheCanvas) {
     EXPECT_EQ(form.cmbDirection.ListIndex(), 1);
     EXPECT_EQ(form.hStart.Max, 200);
     EXPECT_EQ(form.hEnd.Max, 200);
+    EXPECT_EQ(form.hEnd.Value, 200); // at the far edge
     const Bitmap expected = Faded(canvas, fade, form.hStart.Value(), form.hEnd.Value(), kVertical);
     EXPECT_EQ(form.picDest.Image().Pixels(), expected);
     EXPECT_EQ(form.PicImage.Picture().Pixels(), expected);

@@ -302,9 +302,12 @@ void PlainJpeg::WriteScanInterleaved(PlainOutput& out, const Scan& scan) const {
 std::vector<std::uint8_t> PlainJpeg::File() {
     const Long estimate = OptimizeTables();
     PlainOutput out;
+    std::size_t room = 0;
+    for (const auto& component : Components)
+        room += 2 * component.Coefficients.size();
     out.OutBuffer.resize(static_cast<std::size_t>(estimate * Long(2) + Long(1000) +
                                                   Long(static_cast<int>(CommentText.size()))) +
-                         1);
+                         1 + room);
     out.Word(0xFFD8);
     WriteAPP0(out);
     WriteCOM(out);
