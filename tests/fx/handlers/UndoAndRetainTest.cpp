@@ -5,9 +5,7 @@ namespace {
 
 class UndoAndRetainTest : public FxProgramTest {
 protected:
-    bool Shows(const PictureBox& box, const Picture& shown) {
-        return box.Picture().SharesPixelsWith(shown);
-    }
+    bool Shows(const PictureBox& box, const Picture& shown) { return box.Picture().SharesPixelsWith(shown); }
     Picture picture = ChartPicture(6, 5, 60);
 };
 
