@@ -69,7 +69,7 @@ Bitmap& Form::Paint() {
 }
 
 Color Form::Point(float x, float y) const {
-    return surface_.Point(ToLong(double{PixelsX(x)}), ToLong(double{PixelsY(y)}));
+    return surface_.Point(PixelsX(x), PixelsY(y));
 }
 
 void Form::AssignPicture(mirelle::Picture picture) {

@@ -5,8 +5,16 @@
 
 namespace mirelle {
 
+namespace {
+
+double PlaceOf(float measure, ScaleUnit unit) {
+    return unit == ScaleUnit::Twips ? double{measure} / kTwipsPerPixel : double{measure};
+}
+
+} // namespace
+
 int PixelsOf(float measure, ScaleUnit unit) {
-    return ToLong(unit == ScaleUnit::Twips ? double{measure} / kTwipsPerPixel : double{measure});
+    return ToLong(PlaceOf(measure, unit));
 }
 
 float MeasureOf(int pixels, ScaleUnit unit) {
@@ -49,7 +57,7 @@ void PictureBox::FollowSize() {
 }
 
 Color PictureBox::Point(float x, float y) const {
-    return surface_.Point(PixelsOf(x, units_.inner), PixelsOf(y, units_.inner));
+    return surface_.Point(PlaceOf(x, units_.inner), PlaceOf(y, units_.inner));
 }
 
 void PictureBox::Cls() {

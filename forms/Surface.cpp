@@ -1,5 +1,6 @@
 #include "forms/Surface.h"
 
+#include "forms/Numbers.h"
 #include "forms/Stretch.h"
 
 #include <algorithm>
@@ -97,11 +98,16 @@ void Surface::Show(const Picture& image) {
     }
 }
 
-Color Surface::Point(int x, int y) const {
-    if (x < 0 || y < 0 || x >= width_ || y >= height_) return kOffPicture;
-    if (image_) return ColorOf(image_->At(x, y));
+Color Surface::Point(double x, double y) const {
+    const double column = RoundHalfEven(x);
+    const double row = RoundHalfEven(y);
+    const bool inside = column >= 0 && column < width_ && row >= 0 && row < height_;
+    if (!inside) return kOffPicture;
+    const int left = static_cast<int>(column);
+    const int top = static_cast<int>(row);
+    if (image_) return ColorOf(image_->At(left, top));
     const Bitmap& assigned = picture_.Pixels();
-    return assigned.Contains(x, y) ? ColorOf(assigned.At(x, y)) : background_;
+    return assigned.Contains(left, top) ? ColorOf(assigned.At(left, top)) : background_;
 }
 
 void Surface::Copy(const Bitmap& source, PixelArea from, int left, int top) {

@@ -33,8 +33,9 @@ public:
     Picture Image() const;
     // The persistent image to paint in.
     Bitmap& Paint();
-    // The colour at a pixel of the image, kOffPicture outside.
-    Color Point(int x, int y) const;
+    // The colour at a pixel of the image, kOffPicture outside, however far. Places between pixels count to
+    // the nearest one, ties to the even one.
+    Color Point(double x, double y) const;
 
     // Copies the source's pixels of `from` to (left, top), clipped to what exists on both sides.
     void Copy(const Bitmap& source, PixelArea from, int left, int top);

@@ -128,6 +128,10 @@ TEST_F(PictureBoxTest, TheImageShowsThePictureFromTheCornerOverTheBackground) {
     EXPECT_EQ(box.Point(4, 1), 0x112233);
     EXPECT_EQ(box.Point(5, 1), kOffPicture);
     EXPECT_EQ(box.Point(0, -1), kOffPicture);
+    EXPECT_EQ(box.Point(3e9F, 1), kOffPicture);
+    EXPECT_EQ(box.Point(0, -3e9F), kOffPicture);
+    EXPECT_EQ(box.Point(std::numeric_limits<float>::quiet_NaN(), 0), kOffPicture);
+    EXPECT_EQ(box.Point(1.5F, 0.5F), ColorOf(Pixel{2, 0, 0, 0})) << "ties to even";
 }
 
 TEST_F(PictureBoxTest, ALargeEmptyBoxCostsNothing) {
