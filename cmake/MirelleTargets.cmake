@@ -14,7 +14,7 @@ function(mirelle_settings target)
     endif()
     # GCC 12 optimising sees overlapping memory in '"_" + text' where there is none (GCC bug 105651).
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-        target_compile_options(${target} PRIVATE -Wno-restrict)
+        target_compile_options(${target} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-Wno-restrict>)
     endif()
     if(MIRELLE_SANITIZE)
         target_compile_options(${target} PUBLIC -fsanitize=${MIRELLE_SANITIZE} -fno-sanitize-recover=all

@@ -35,7 +35,7 @@ public:
     int Count() const { return static_cast<int>(elements_.size()); }
 
     // Connects one handler, which is told the index, to the Click of every element.
-    void OnClick(std::function<void(int)> handler) {
+    void OnClick(const std::function<void(int)>& handler) {
         for (auto& [index, element] : elements_)
             element->Click.Connect([handler, i = index] { handler(i); });
     }

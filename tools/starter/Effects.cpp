@@ -36,7 +36,7 @@ Bitmap UpperHalf(const Tile& tile) {
 }
 
 std::int16_t ByteOf(double level) {
-    return static_cast<std::int16_t>(level * 255 + 0.5);
+    return static_cast<std::int16_t>(std::floor(level * 255 + 0.5));
 }
 
 } // namespace

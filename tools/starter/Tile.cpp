@@ -4,7 +4,7 @@ namespace mirelle::starter {
 namespace {
 
 std::uint8_t ByteOf(double level) {
-    return static_cast<std::uint8_t>(std::clamp(level, 0.0, 1.0) * 255 + 0.5);
+    return static_cast<std::uint8_t>(std::floor(std::clamp(level, 0.0, 1.0) * 255 + 0.5));
 }
 
 // The direction to the lamp: left, up, towards the eye.
