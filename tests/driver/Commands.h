@@ -32,6 +32,9 @@ std::span<const Command> JpegCommands();
 std::span<const Command> PictureCommands();
 std::span<const Command> TimeCommands();
 
+// All of them in one table.
+std::span<const Command> AllCommands();
+
 // The command whose name is the first word. Throws UsageError where there is none, or it does not take so
 // many words. CommandIn looks in one table, CommandOf in all.
 const Command& CommandIn(std::span<const Command> table, Words words);
