@@ -4,13 +4,14 @@
 #include "forms/RunTimeError.h"
 #include "fx/ByteMe.h"
 
+#include <string>
 #include <type_traits>
 #include <variant>
 
 namespace mirelle {
 namespace {
 
-// (offset x percent) \ 100
+// (offset x percent) \ 100, of a percent that is a number.
 Long ScaledOffset(Integer offset, const Variant& percent) {
     const auto quotient = [&](const auto& value) -> Long {
         using Value = std::decay_t<decltype(value)>;
@@ -53,14 +54,23 @@ std::int16_t GetBlue(Color color) {
     return static_cast<std::int16_t>((color / 65536) & 255);
 }
 
-Contrast::Contrast(const Variant& percent) {
+Contrast::Contrast(const Variant& percent, FXForm form) {
     for (int channel = 0; channel < 256; ++channel) {
-        const auto byte = static_cast<std::uint8_t>(channel);
-        table_[byte] = Contrasted(byte, percent);
+        table_[static_cast<std::size_t>(channel)] = static_cast<std::uint8_t>(channel);
     }
+    double number = 0;
+    ResumeNext([&] {
+        number = percent.Number(); // a text that is no number fails here, for all channels
+        const bool isText = std::holds_alternative<std::string>(percent.Get());
+        const Variant factor = isText ? Variant(number) : percent;
+        for (std::uint8_t& entry : table_)
+            entry = Contrasted(entry, factor);
+    });
+    if (form == FXForm::Fast) line_ = fast::FitContrastLine(table_, number / 100);
 }
 
 void Contrast::Apply(std::span<const Pixel> source, std::span<Pixel> destination) const {
+    if (line_) return fast::ContrastByLine(*line_, source.data(), destination.data(), source.size());
     for (std::size_t i = 0; i < source.size(); ++i) {
         const Pixel& pixel = source[i];
         destination[i] = {table_[pixel.blue], table_[pixel.green], table_[pixel.red], 0};

@@ -8,9 +8,11 @@
 
 #include "forms/Picture.h"
 #include "forms/Variant.h"
+#include "fx/fast/ContrastLine.h"
+#include "fx/FormChoice.h"
 
-#include <array>
 #include <cstdint>
+#include <optional>
 #include <span>
 
 namespace mirelle {
@@ -24,7 +26,7 @@ std::int16_t GetBlue(Color color);
 // once for each of its 256 values.
 class Contrast {
 public:
-    explicit Contrast(const Variant& percent);
+    explicit Contrast(const Variant& percent, FXForm form = ChosenFXForm());
 
     std::uint8_t operator()(std::uint8_t channel) const { return table_[channel]; }
 
@@ -33,7 +35,9 @@ public:
     void Apply(std::span<const Pixel> source, std::span<Pixel> destination) const;
 
 private:
-    std::array<std::uint8_t, 256> table_{};
+    fast::ContrastTable table_{};
+    // What the fast form follows instead of the table.
+    std::optional<fast::ContrastLine> line_;
 };
 
 } // namespace mirelle

@@ -19,7 +19,7 @@ namespace mirelle {
 
 class IMFXModule1 {
 public:
-    explicit IMFXModule1(EventPump& pump, const KernelSet& kernels = kPlainKernels)
+    explicit IMFXModule1(EventPump& pump, const KernelSet& kernels = ChosenKernels())
         : pump_(pump), kernels_(kernels) {}
 
     // The pixel arrays, x fastest, rows from the top. EndFX hands the destination over and leaves it empty.

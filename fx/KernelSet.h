@@ -39,5 +39,9 @@ struct KernelSet {
 using Kernel = KernelFunction KernelSet::*;
 
 extern const KernelSet kPlainKernels;
+extern const KernelSet kFastKernels;
+
+// The set that the program runs: the fast one, unless the plain form is asked for (see FormChoice.h).
+const KernelSet& ChosenKernels();
 
 } // namespace mirelle

@@ -20,7 +20,7 @@ PointEffects::PointEffects(FrmPicX& form) : form_(form) {
 void PointEffects::Run(PointEffect effect, const PointArguments& arguments) {
     ResumeNext([&] {
         GetFXBits(form_);
-        (kPlainPoints.*effect)(form_.FXSource, form_.FXDest, arguments);
+        (ChosenPoints().*effect)(form_.FXSource, form_.FXDest, arguments);
         PutFXBits(form_);
     });
 }

@@ -38,5 +38,9 @@ struct PointSet {
 using PointEffect = PointFunction PointSet::*;
 
 extern const PointSet kPlainPoints;
+extern const PointSet kFastPoints;
+
+// The set that the program runs, chosen as the kernels are.
+const PointSet& ChosenPoints();
 
 } // namespace mirelle

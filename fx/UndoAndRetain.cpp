@@ -50,7 +50,7 @@ void UndoAndRetain::Revert() {
     if (form_.ClipboardIsSource) ReadClipboardAgain();
     form_.MousePointer = kPointerHourglass;
     if (!form_.ClipboardIsSource) ReadFileAgain();
-    kPlainPoints.Copy(form_.FXSource, form_.FXDest, {});
+    ChosenPoints().Copy(form_.FXSource, form_.FXDest, {});
     PutFXBits(form_);
 }
 

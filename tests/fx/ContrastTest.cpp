@@ -135,8 +135,12 @@ TEST(ContrastTest, OtherKindsOfNumber) {
     EXPECT_EQ(Contrast(Variant(true))(255), 254); // -128 \ 100
 }
 
-TEST(ContrastTest, AppliesToAllThreeChannelsOfEveryPixel) {
-    const Contrast contrast(Variant("50"));
+class ContrastFormTest : public testing::TestWithParam<FXForm> {};
+INSTANTIATE_TEST_SUITE_P(Forms, ContrastFormTest, testing::Values(FXForm::Plain, FXForm::Fast),
+                         [](const auto& test) { return test.param == FXForm::Plain ? "Plain" : "Fast"; });
+
+TEST_P(ContrastFormTest, AppliesToAllThreeChannelsOfEveryPixel) {
+    const Contrast contrast(Variant("50"), GetParam());
     const Bitmap noise = NoiseBitmap(67, 3, 1);
     Bitmap painted(67, 3);
     contrast.Apply(noise.Pixels(), painted.Pixels());
@@ -149,8 +153,8 @@ TEST(ContrastTest, AppliesToAllThreeChannelsOfEveryPixel) {
     }
 }
 
-TEST(ContrastTest, CanBeAppliedInPlaceAndInParts) {
-    const Contrast contrast(Variant("-37"));
+TEST_P(ContrastFormTest, CanBeAppliedInPlaceAndInParts) {
+    const Contrast contrast(Variant("-37"), GetParam());
     const Bitmap noise = NoiseBitmap(67, 3, 2);
     Bitmap whole(67, 3);
     contrast.Apply(noise.Pixels(), whole.Pixels());

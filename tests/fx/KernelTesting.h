@@ -2,13 +2,14 @@
 #pragma once
 
 #include "forms/Picture.h"
-#include "fx/KernelSet.h"
+#include "fx/KernelTable.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <initializer_list>
 #include <ostream>
+#include <string>
 #include <string_view>
 
 namespace mirelle::test {
@@ -39,8 +40,10 @@ protected:
 };
 
 #define MIRELLE_KERNEL_TESTS(suite)                                                                          \
-    INSTANTIATE_TEST_SUITE_P(Kernels, suite, testing::Values(NamedKernelSet{"Plain", &kPlainKernels}),       \
-                             [](const auto& test) { return std::string(test.param.name); })
+    INSTANTIATE_TEST_SUITE_P(                                                                                \
+        Kernels, suite,                                                                                      \
+        testing::Values(NamedKernelSet{"Plain", &kPlainKernels}, NamedKernelSet{"Fast", &kFastKernels}),     \
+        [](const auto& test) { return std::string(test.param.name); })
 
 // A pixel of three equal channels, with a fourth byte that must not come through.
 constexpr Pixel Grey(std::uint8_t value) {
@@ -77,6 +80,10 @@ inline Bitmap WithoutFourth(Bitmap bitmap) {
 } // namespace mirelle::test
 
 namespace mirelle {
+
+inline void PrintTo(const KernelButton& button, std::ostream* out) {
+    *out << button.control;
+}
 
 inline void PrintTo(const Pixel& pixel, std::ostream* out) {
     *out << "red " << int{pixel.red} << ", green " << int{pixel.green} << ", blue " << int{pixel.blue}

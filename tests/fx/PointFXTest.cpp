@@ -14,6 +14,8 @@ namespace {
 struct NamedPointSet {
     std::string_view name;
     const PointSet* set;
+
+    friend void PrintTo(const NamedPointSet& named, std::ostream* out) { *out << named.name; }
 };
 
 class PointFXTest : public testing::TestWithParam<NamedPointSet> {
@@ -48,7 +50,9 @@ protected:
         return Run(effect, Bitmap(1, 1, pixel), arguments).At(0, 0);
     }
 };
-INSTANTIATE_TEST_SUITE_P(Points, PointFXTest, testing::Values(NamedPointSet{"Plain", &kPlainPoints}),
+INSTANTIATE_TEST_SUITE_P(Points, PointFXTest,
+                         testing::Values(NamedPointSet{"Plain", &kPlainPoints},
+                                         NamedPointSet{"Fast", &kFastPoints}),
                          [](const auto& test) { return std::string(test.param.name); });
 
 constexpr std::array kAllEffects{&PointSet::Invert,    &PointSet::FlipVertical, &PointSet::FlipHorizontal,
@@ -186,6 +190,38 @@ TEST_P(PointFXTest, ALargerDestinationTakesTheEffectAtItsTopLeft) {
             EXPECT_EQ(painted.At(x, y), expected);
         }
     }
+}
+
+TEST_P(PointFXTest, ASourceArrayNarrowerThanItsRecordFailsAtOnceFromTheRight) {
+    PixelFrame source = FrameOf(Bitmap(2, 2, Grey(7)));
+    source.info = RecordOf(3, 2);
+    PixelFrame destination = EmptyFrame(3, 2);
+    EXPECT_EQ(ErrorOf([&] { Run(&PointSet::FlipHorizontal, source, destination); }),
+              ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(BitmapOf(destination), Bitmap(3, 2));
+    EXPECT_EQ(ErrorOf([&] { Run(&PointSet::Copy, source, destination); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(BitmapOf(destination), WithoutFourth(GreyRows({{7, 7, 0}, {0, 0, 0}})));
+}
+
+TEST_P(PointFXTest, ASwapFromAChannelThatIsNotThereFails) {
+    const PixelFrame source = FrameOf(Bitmap(2, 1, Rgb(1, 2, 3)));
+    PixelFrame destination = EmptyFrame(2, 1);
+    EXPECT_EQ(ErrorOf([&] {
+                  Run(&PointSet::SwapChannels, source, destination, {.swap = {0, 4, 2}});
+              }),
+              ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(BitmapOf(destination).At(0, 0), Rgb(1, 0, 0)); // red goes first
+    EXPECT_EQ(RunOne(&PointSet::SwapChannels, {1, 2, 3, 77}, {.swap = {3, 3, 3}}), PaintedGrey(77));
+}
+
+TEST_P(PointFXTest, AShiftBeyond16BitsEndsTheEffect) {
+    const PixelFrame source = FrameOf(GreyRows({{1, 255}}));
+    PixelFrame destination = EmptyFrame(2, 1);
+    const PointArguments shifts{.shifts = {32767 - 1, 0, 0}};
+    EXPECT_EQ(ErrorOf([&] { Run(&PointSet::ShiftColors, source, destination, shifts); }),
+              ErrorNumber::Overflow);
+    EXPECT_EQ(BitmapOf(destination).At(0, 0), Rgb(1, 1, 255));
+    EXPECT_EQ(BitmapOf(destination).At(1, 0), Pixel{});
 }
 
 TEST_P(PointFXTest, FramesThatWereNeverSizedHaveNothingToDo) {

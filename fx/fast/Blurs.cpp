@@ -1,0 +1,77 @@
+#include "fx/fast/FastKernels.h"
+#include "fx/fast/Lanes.h"
+
+namespace mirelle::fast {
+namespace {
+
+// What a blur remembers is pixels of the source, not of its result, so every pixel can be done for itself:
+// the remembered pixels are the source again, moved by one and by two.
+
+MIRELLE_VERSIONS void Copied(const Pixel* source, Pixel* destination, std::size_t pixels) {
+    EachWord(
+        pixels, destination, [](std::size_t, std::uint32_t s) MIRELLE_LAMBDA { return s; }, source);
+}
+
+MIRELLE_VERSIONS void Averaged(const Pixel* c, const Pixel* p, Pixel* destination, std::size_t pixels) {
+    EachWord(
+        pixels, destination,
+        [](std::size_t, std::uint32_t cs, std::uint32_t ps) MIRELLE_LAMBDA { return MeanToEven(cs, ps); }, c,
+        p);
+}
+
+// A quarter of each 16-bit half of a word, ties to even: n / 4 rounds up from 2 over an odd quotient and from
+// 3 over an even one. n is at most 1020.
+MIRELLE_INLINE std::uint32_t QuartersToEven(std::uint32_t n) {
+    constexpr std::uint32_t lowBits = 0x00010001;
+    return (n + lowBits + (n >> 2 & lowBits)) >> 2 & 0x00FF00FF;
+}
+
+// ((c + p1) / 2 + p2) / 2 is a quarter of c + p1 + 2 p2; the halving between loses nothing in a float.
+MIRELLE_VERSIONS void AveragedMore(const Pixel* c, const Pixel* p1, const Pixel* p2, Pixel* destination,
+                                   std::size_t pixels) {
+    EachWord(
+        pixels, destination,
+        [](std::size_t, std::uint32_t cs, std::uint32_t p1s, std::uint32_t p2s) MIRELLE_LAMBDA {
+            constexpr std::uint32_t blueAndRed = 0x00FF00FF;
+            constexpr std::uint32_t green = 0x000000FF;
+            const std::uint32_t even = (cs & blueAndRed) + (p1s & blueAndRed) + 2 * (p2s & blueAndRed);
+            const std::uint32_t odd = (cs >> 8 & green) + (p1s >> 8 & green) + 2 * (p2s >> 8 & green);
+            return QuartersToEven(even) | QuartersToEven(odd) << 8;
+        },
+        c, p1, p2);
+}
+
+} // namespace
+
+void FXBlur(const KernelFrame& frame, const KernelArguments&) {
+    const Pixel* source = frame.source.data();
+    Pixel* destination = frame.destination.data();
+    const auto width = static_cast<std::size_t>(frame.width);
+    Copied(source, destination, width);
+    Averaged(source + width, source + width - 1, destination + width, frame.source.size() - width);
+}
+
+void FXBlurMore(const KernelFrame& frame, const KernelArguments&) {
+    const Pixel* source = frame.source.data();
+    Pixel* destination = frame.destination.data();
+    const auto width = static_cast<std::size_t>(frame.width);
+    const std::size_t size = frame.source.size();
+    Copied(source, destination, width);
+    if (size == width) return;
+    // Row 0 leaves its last pixel in both places.
+    const Pixel* last = source + width - 1;
+    AveragedMore(last + 1, last, last, destination + width, 1);
+    AveragedMore(last + 2, last + 1, last, destination + width + 1, size - width - 1);
+}
+
+void FXBlurMoreVert(const KernelFrame& frame, const KernelArguments&) {
+    const auto width = static_cast<std::size_t>(frame.width);
+    const auto row = [&](int y) { return frame.source.data() + static_cast<std::size_t>(y) * width; };
+    Copied(row(0), frame.destination.data(), width);
+    for (int y = 1; y < frame.height; ++y) {
+        Pixel* destination = frame.destination.data() + static_cast<std::size_t>(y) * width;
+        AveragedMore(row(y), row(y - 1), y == 1 ? row(0) : row(y - 2), destination, width);
+    }
+}
+
+} // namespace mirelle::fast

@@ -1,0 +1,91 @@
+// Channels that keep the value of the pixel before where a step fails, without a branch.
+//
+// A kernel fills a run of pixels with what it got: a channel that failed has 255 in `failed` and 0 in
+// `values`, any other has 0 in `failed`. Resolve then carries values over the failures, within the run and
+// from the run before it.
+#pragma once
+
+#include "fx/fast/Lanes.h"
+
+#include <algorithm>
+
+namespace mirelle::fast {
+
+class KeptValues {
+public:
+    static constexpr std::size_t kRunPixels = 8 * kBlockPixels;
+    static constexpr std::size_t kRunBytes = 4 * kRunPixels;
+
+    MIRELLE_INLINE std::uint8_t* Values() { return values_ + kBlockBytes; }
+    MIRELLE_INLINE std::uint8_t* Failed() { return failed_ + kBlockBytes; }
+
+    // Writes the run to `out`, kRunPixels of them, of which the first `pixels` are the picture's.
+    MIRELLE_INLINE void Resolve(std::uint8_t* out, std::size_t pixels) {
+        const std::uint8_t* values = Values();
+        const std::uint8_t* failed = Failed();
+        std::uint8_t anyFailed = 0;
+        for (std::size_t i = 0; i < kRunBytes; ++i)
+            anyFailed |= failed[i];
+        if (anyFailed == 0) {
+            std::memcpy(out, values, kRunBytes);
+        } else {
+            CarryOver(out);
+        }
+        last_ = Word(out + 4 * (pixels - 1));
+    }
+
+private:
+    MIRELLE_INLINE void CarryOver(std::uint8_t* out) {
+        // A failed channel takes the value of the pixel before, which may have failed as well.
+        SetWord(values_ + kBlockBytes - 4, last_);
+        const std::uint8_t* values = Values();
+        const std::uint8_t* failed = Failed();
+        MIRELLE_INDEPENDENT
+        for (std::size_t i = 0; i < kRunBytes; ++i) {
+            joined_[i] = static_cast<std::uint8_t>(values[i] | (failed[i] & values[i - 4]));
+            failedTwice_[i] = static_cast<std::uint8_t>(failed[i] & failed[i - 4]);
+        }
+        // Now only pixels two apart depend on one another, and two at a time are carried on.
+        std::uint64_t pair = std::uint64_t{last_} << 32;
+        for (std::size_t i = 0; i < kRunBytes; i += 8) {
+            std::uint64_t joined;
+            std::uint64_t failedTwice;
+            std::memcpy(&joined, joined_ + i, sizeof joined);
+            std::memcpy(&failedTwice, failedTwice_ + i, sizeof failedTwice);
+            pair = joined | (failedTwice & pair);
+            std::memcpy(out + i, &pair, sizeof pair);
+        }
+    }
+
+    // The block ahead of a run holds the last pixel before it in `values_`, and no failure in `failed_`.
+    alignas(kBlockBytes) std::uint8_t values_[kBlockBytes + kRunBytes] = {};
+    alignas(kBlockBytes) std::uint8_t failed_[kBlockBytes + kRunBytes] = {};
+    alignas(kBlockBytes) std::uint8_t joined_[kRunBytes];
+    alignas(kBlockBytes) std::uint8_t failedTwice_[kRunBytes];
+    std::uint32_t last_ = 0; // before the first pixel every value counts as 0
+};
+
+// Runs fill(values, failed, in...) over so many pixels, in runs of KeptValues::kRunPixels, and resolves each.
+template <class Fill, class... In>
+MIRELLE_INLINE void EachRun(KeptValues& kept, std::size_t pixels, Pixel* out, const Fill& fill,
+                            const In*... in) {
+    constexpr std::size_t run = KeptValues::kRunPixels;
+    std::size_t done = 0;
+    for (; done + run <= pixels; done += run) {
+        fill(kept.Values(), kept.Failed(), BytesOf(in + done)...);
+        kept.Resolve(BytesOf(out + done), run);
+    }
+    if (const std::size_t rest = pixels - done; rest != 0) {
+        const auto copied = [&](const Pixel* from) {
+            std::array<Pixel, run> copy{};
+            std::memcpy(copy.data(), from, rest * sizeof(Pixel));
+            return copy;
+        };
+        std::array<Pixel, run> result;
+        fill(kept.Values(), kept.Failed(), BytesOf(copied(in + done).data())...);
+        kept.Resolve(BytesOf(result.data()), rest);
+        std::memcpy(out + done, result.data(), rest * sizeof(Pixel));
+    }
+}
+
+} // namespace mirelle::fast
