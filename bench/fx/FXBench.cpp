@@ -154,7 +154,7 @@ void RegisterAll() {
     }
     cases.push_back(PointCase("Sliders", kArithmetic, &PointSet::ShiftColors, {.shifts = {10, -20, 30}}));
     cases.push_back(PointCase("Revert's copy", kNearCopy, &PointSet::Copy, {}));
-    for (const char* percent : {"30", "50", "-75", "12.5", "640"})
+    for (const char* percent : {"30", "50", "-75", "12.5", "99.6", "640"})
         cases.push_back(ContrastCase(percent));
     for (const Case& measured : cases) {
         benchmark::RegisterBenchmark(measured.name.c_str(),

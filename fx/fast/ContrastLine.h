@@ -1,8 +1,7 @@
 // A contrast table as one line of arithmetic, which vector code follows faster than it looks up a table.
 //
 // A channel c moves away from 127 (or toward it and beyond) by a number of steps that grows with its distance
-// d = |c - 127|: ((d x 2^shift x slope) + offset) / 65536, cut down, at most 255; then it is limited to a
-// byte.
+// d = |c - 127|: (d x 2^shift x slope + offset) / 65536, cut down; then it is limited to a byte.
 #pragma once
 
 #include "forms/Picture.h"
@@ -17,21 +16,18 @@ namespace mirelle::fast {
 using ContrastTable = std::array<std::uint8_t, 256>;
 
 struct ContrastLine {
-    bool outward = true;       // away from 127
-    std::uint8_t farthest = 0; // a distance above this one counts as this one
+    bool outward = true; // away from 127
     std::uint8_t shift = 0;
     std::uint16_t slope = 0;
-    std::uint16_t offset = 0;
+    std::uint16_t offset = 0; // 0 for nearly every table, which saves a third of the work
 };
 
 // The line that gives the table exactly, for a table of so many steps for each step of distance, or nothing
 // where there is none: where channels keep their value, say, since the result left 16 bits.
 std::optional<ContrastLine> FitContrastLine(const ContrastTable& table, double stepsPerDistance);
 
-// What the line makes of one channel.
-std::uint8_t OnLine(const ContrastLine& line, std::uint8_t channel);
-
-// The same for all three channels of pixels; the fourth byte becomes 0. `from` and `to` may be the same.
+// What the line makes of all three channels of pixels; the fourth byte becomes 0. `from` and `to` may be the
+// same.
 void ContrastByLine(const ContrastLine& line, const Pixel* from, Pixel* to, std::size_t pixels);
 
 } // namespace mirelle::fast

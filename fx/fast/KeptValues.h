@@ -36,32 +36,42 @@ public:
 
 private:
     MIRELLE_INLINE void CarryOver(std::uint8_t* out) {
-        // A failed channel takes the value of the pixel before, which may have failed as well.
+        // A failed channel takes the value of the pixel before, and what is still failed then takes that of
+        // two before; what failed in four pixels together is left.
         SetWord(values_ + kBlockBytes - 4, last_);
-        const std::uint8_t* values = Values();
-        const std::uint8_t* failed = Failed();
-        MIRELLE_INDEPENDENT
-        for (std::size_t i = 0; i < kRunBytes; ++i) {
-            joined_[i] = static_cast<std::uint8_t>(values[i] | (failed[i] & values[i - 4]));
-            failedTwice_[i] = static_cast<std::uint8_t>(failed[i] & failed[i - 4]);
+        SetWord(joined_ + kBlockBytes - 8, last_);
+        SetWord(joined_ + kBlockBytes - 4, last_);
+        Join(values_, failed_, joined_, failedAgain_, 4);
+        Join(joined_, failedAgain_, values_, failed_, 8);
+        // Now only pixels four apart depend on one another, and four at a time are carried on.
+        std::uint64_t first = std::uint64_t{last_} << 32 | last_;
+        std::uint64_t second = first;
+        for (std::size_t i = 0; i < kRunBytes; i += 16) {
+            std::uint64_t joined[2];
+            std::uint64_t failed[2];
+            std::memcpy(joined, Values() + i, sizeof joined);
+            std::memcpy(failed, Failed() + i, sizeof failed);
+            first = joined[0] | (failed[0] & first);
+            second = joined[1] | (failed[1] & second);
+            std::memcpy(out + i, &first, sizeof first);
+            std::memcpy(out + i + 8, &second, sizeof second);
         }
-        // Now only pixels two apart depend on one another, and two at a time are carried on.
-        std::uint64_t pair = std::uint64_t{last_} << 32;
-        for (std::size_t i = 0; i < kRunBytes; i += 8) {
-            std::uint64_t joined;
-            std::uint64_t failedTwice;
-            std::memcpy(&joined, joined_ + i, sizeof joined);
-            std::memcpy(&failedTwice, failedTwice_ + i, sizeof failedTwice);
-            pair = joined | (failedTwice & pair);
-            std::memcpy(out + i, &pair, sizeof pair);
+    }
+
+    static MIRELLE_INLINE void Join(const std::uint8_t* values, const std::uint8_t* failed,
+                                    std::uint8_t* joined, std::uint8_t* failedAgain, std::size_t distance) {
+        MIRELLE_INDEPENDENT
+        for (std::size_t i = kBlockBytes; i < kBlockBytes + kRunBytes; ++i) {
+            joined[i] = static_cast<std::uint8_t>(values[i] | (failed[i] & values[i - distance]));
+            failedAgain[i] = static_cast<std::uint8_t>(failed[i] & failed[i - distance]);
         }
     }
 
     // The block ahead of a run holds the last pixel before it in `values_`, and no failure in `failed_`.
     alignas(kBlockBytes) std::uint8_t values_[kBlockBytes + kRunBytes] = {};
     alignas(kBlockBytes) std::uint8_t failed_[kBlockBytes + kRunBytes] = {};
-    alignas(kBlockBytes) std::uint8_t joined_[kRunBytes];
-    alignas(kBlockBytes) std::uint8_t failedTwice_[kRunBytes];
+    alignas(kBlockBytes) std::uint8_t joined_[kBlockBytes + kRunBytes] = {};
+    alignas(kBlockBytes) std::uint8_t failedAgain_[kBlockBytes + kRunBytes] = {};
     std::uint32_t last_ = 0; // before the first pixel every value counts as 0
 };
 

@@ -20,7 +20,8 @@ namespace mirelle::fast {
 
 static_assert(std::endian::native == std::endian::little, "words of pixels have blue in the lowest byte");
 
-constexpr std::size_t kBlockPixels = 16;
+// More than 16, or GCC takes the loop over a block's words apart before it looks for vectors.
+constexpr std::size_t kBlockPixels = 32;
 constexpr std::size_t kBlockBytes = 4 * kBlockPixels;
 
 constexpr std::uint32_t kColorBytes = 0x00FFFFFF;

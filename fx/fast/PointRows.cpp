@@ -8,37 +8,48 @@ namespace {
 constexpr float kFloatToWhole = 12582912.0F;          // 1.5 x 2^23
 constexpr double kDoubleToWhole = 6755399441055744.0; // 1.5 x 2^52
 
+// Pixels that are looked at for ties together.
+constexpr std::size_t kGreyPixels = 2 * kBlockPixels;
+
 MIRELLE_INLINE std::uint32_t InAllChannels(std::uint32_t value) {
-    return value | value << 8 | value << 16;
+    return (value & 0xFF) * 0x010101;
 }
 
-MIRELLE_INLINE void GreyBlockInDoubles(std::uint8_t* to, const std::uint8_t* from) {
-    for (std::size_t k = 0; k < kBlockPixels; ++k) {
-        const std::uint8_t* pixel = from + 4 * k;
+MIRELLE_INLINE void GreyInDoubles(const Pixel* from, Pixel* to, std::size_t pixels) {
+    const std::uint8_t* in = BytesOf(from);
+    std::uint8_t* out = BytesOf(to);
+    MIRELLE_INDEPENDENT
+    for (std::size_t i = 0; i < pixels; ++i) {
+        const std::uint8_t* pixel = in + 4 * i;
         const double grey = pixel[2] * 0.222 + pixel[1] * 0.707 + pixel[0] * 0.071;
         const auto bits = std::bit_cast<std::uint64_t>(grey + kDoubleToWhole);
-        SetWord(to + 4 * k, InAllChannels(static_cast<std::uint32_t>(bits & 0xFF)));
+        SetWord(out + 4 * i, InAllChannels(static_cast<std::uint32_t>(bits)));
     }
 }
 
 // In thousandths the weighted sum is a whole number n, and a float can round its thousandth part for every n
-// but those that end in 500. Such a tie is decided by the rounding errors of the sum in doubles; the few
-// blocks that hold one are done over in that way.
-MIRELLE_INLINE void GreyBlock(std::uint8_t* to, const std::uint8_t* from) {
-    std::uint32_t ties = 0;
+// but those that end in 500. Gives whether there was such a tie.
+MIRELLE_INLINE bool GreyInFloats(const Pixel* from, Pixel* to) {
+    const std::uint8_t* in = BytesOf(from);
+    std::uint8_t* out = BytesOf(to);
+    std::uint32_t farthest = 0;
     MIRELLE_INDEPENDENT
-    for (std::size_t k = 0; k < kBlockPixels; ++k) {
-        const std::uint32_t pixel = Word(from + 4 * k);
-        const auto channel = [pixel](int shift) MIRELLE_LAMBDA {
-            return static_cast<float>(static_cast<std::int32_t>(pixel >> shift & 0xFF));
+    for (std::size_t i = 0; i < kGreyPixels; ++i) {
+        const std::uint32_t pixel = Word(in + 4 * i);
+        // Channels are left where they stand in the word: divided by a power of two a weight stays exact.
+        const auto inPlace = [pixel](std::uint32_t mask) MIRELLE_LAMBDA {
+            return static_cast<float>(static_cast<std::int32_t>(pixel & mask));
         };
-        const float n = channel(16) * 222.0F + channel(8) * 707.0F + channel(0) * 71.0F;
+        const float n = inPlace(0xFF0000) * (222.0F / 65536) + inPlace(0x00FF00) * (707.0F / 256) +
+                        inPlace(0x0000FF) * 71.0F;
         const float rounded = n * 0.001F + kFloatToWhole;
         const float rest = n - (rounded - kFloatToWhole) * 1000.0F;
-        ties |= rest * rest == 500.0F * 500.0F ? 1U : 0U;
-        SetWord(to + 4 * k, InAllChannels(std::bit_cast<std::uint32_t>(rounded) & 0xFF));
+        // The bits of floats that are not negative have the order of the floats.
+        const std::uint32_t distance = std::bit_cast<std::uint32_t>(rest) & 0x7FFFFFFF;
+        farthest = farthest > distance ? farthest : distance;
+        SetWord(out + 4 * i, InAllChannels(std::bit_cast<std::uint32_t>(rounded)));
     }
-    if (ties != 0) GreyBlockInDoubles(to, from);
+    return farthest == std::bit_cast<std::uint32_t>(500.0F);
 }
 
 } // namespace
@@ -62,10 +73,15 @@ MIRELLE_VERSIONS void ReverseRow(const Pixel* from, Pixel* to, std::size_t pixel
     }
 }
 
+// A tie is decided by the rounding errors of the sum in doubles, so that the few groups of pixels that hold
+// one are done over in that way.
 MIRELLE_VERSIONS void GreyRow(const Pixel* from, Pixel* to, std::size_t pixels) {
-    EachBlock(
-        pixels, to, [](std::uint8_t* out, const std::uint8_t* in) MIRELLE_LAMBDA { GreyBlock(out, in); },
-        from);
+    std::size_t done = 0;
+    for (; done + kGreyPixels <= pixels; done += kGreyPixels) {
+        const bool anyTie = GreyInFloats(from + done, to + done);
+        if (anyTie) GreyInDoubles(from + done, to + done, kGreyPixels);
+    }
+    GreyInDoubles(from + done, to + done, pixels - done);
 }
 
 MIRELLE_VERSIONS void SwapRow(const Pixel* from, Pixel* to, std::size_t pixels,

@@ -169,20 +169,32 @@ Bitmap PaintedPoint(const PointSet& set, PointEffect effect, const Bitmap& sourc
     return painted;
 }
 
-TEST(PointFormsAgree, OnRandomPicturesOfEverySize) {
-    constexpr std::uint32_t seed = 3;
+void ExpectPointAgreement(const Bitmap& source, const std::string& what) {
     std::vector<PointButton> runs(kPointButtons.begin(), kPointButtons.end());
     runs.push_back({"shift", "", &PointSet::ShiftColors, {.shifts = {10, -20, 0}}});
     runs.push_back({"far shift", "", &PointSet::ShiftColors, {.shifts = {-255, 255, -300}}});
     runs.push_back({"farther shift", "", &PointSet::ShiftColors, {.shifts = {-32768, 32000, 1}}});
     runs.push_back({"copy", "", &PointSet::Copy, {}});
+    for (const PointButton& run : runs) {
+        ASSERT_EQ(PaintedPoint(kFastPoints, run.effect, source, run.arguments),
+                  PaintedPoint(kPlainPoints, run.effect, source, run.arguments))
+            << run.control << ", " << what;
+    }
+}
+
+TEST(PointFormsAgree, OnRandomPicturesOfEverySize) {
+    constexpr std::uint32_t seed = 3;
     for (int number = 0; number < kAllSizes; ++number) {
-        const Bitmap source = RandomPicture(number, seed);
-        for (const PointButton& run : runs) {
-            ASSERT_EQ(PaintedPoint(kFastPoints, run.effect, source, run.arguments),
-                      PaintedPoint(kPlainPoints, run.effect, source, run.arguments))
-                << run.control << ", picture " << number << " of seed " << seed;
-        }
+        ExpectPointAgreement(RandomPicture(number, seed),
+                             "picture " + std::to_string(number) + " of seed " + std::to_string(seed));
+        if (HasFatalFailure()) return;
+    }
+}
+
+TEST(PointFormsAgree, OnLongerRows) {
+    for (int width : {63, 64, 65, 127, 128, 129, 191, 300}) {
+        ExpectPointAgreement(NoiseBitmap(width, 3, 5), "noise of seed 5, " + std::to_string(width) + " wide");
+        if (HasFatalFailure()) return;
     }
 }
 
@@ -234,15 +246,27 @@ TEST(ContrastFormsAgree, AtEveryWholePercentAndBetween) {
     }
 }
 
-// The fast way is open wherever the result stays within 16 bits.
-TEST(ContrastLineTest, EveryWholePercentHasALine) {
-    for (int percent = -25000; percent <= 25000; percent += std::abs(percent) < 1100 ? 1 : 97) {
+// The fast way is open at any percent that makes a difference, and at its fastest for nearly all.
+TEST(ContrastLineTest, EveryWholePercentHasALineThrough127) {
+    for (int percent = -12700; percent <= 12700; percent += std::abs(percent) < 1100 ? 1 : 97) {
         const Contrast contrast(Variant(std::to_string(percent)));
         fast::ContrastTable table{};
         for (std::size_t c = 0; c < 256; ++c)
             table[c] = contrast(static_cast<std::uint8_t>(c));
-        ASSERT_TRUE(fast::FitContrastLine(table, percent / 100.0)) << percent;
+        const auto line = fast::FitContrastLine(table, percent / 100.0);
+        ASSERT_TRUE(line) << percent;
+        EXPECT_EQ(line->offset, 0) << percent;
     }
+}
+
+TEST(ContrastLineTest, WhatIsRoundedUpToAWholeStepNeedsAnOffset) {
+    const Contrast contrast(Variant("99.6"));
+    fast::ContrastTable table{};
+    for (std::size_t c = 0; c < 256; ++c)
+        table[c] = contrast(static_cast<std::uint8_t>(c));
+    const auto line = fast::FitContrastLine(table, 0.996);
+    ASSERT_TRUE(line);
+    EXPECT_GT(line->offset, 0);
 }
 
 TEST(ContrastLineTest, ATableThatIsNoLineHasNone) {

@@ -166,6 +166,14 @@ TEST_P(PointFXTest, ANarrowerDestinationEndsTheEffectInItsFirstRow) {
     }
 }
 
+TEST_P(PointFXTest, ANarrowerDestinationTakesTheRightEndOfAFlippedRow) {
+    const PixelFrame source = FrameOf(GreyRows({{1, 2, 3, 4, 5}}));
+    PixelFrame destination = EmptyFrame(3, 1);
+    EXPECT_EQ(ErrorOf([&] { Run(&PointSet::FlipHorizontal, source, destination); }),
+              ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(BitmapOf(destination), WithoutFourth(GreyRows({{5, 4, 3}})));
+}
+
 TEST_P(PointFXTest, ALowerDestinationEndsTheEffectBelowItsLastRow) {
     const PixelFrame source = FrameOf(Bitmap(3, 5, Grey(7)));
     for (const PointEffect effect : kAllEffects) {
