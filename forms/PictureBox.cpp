@@ -52,6 +52,11 @@ void PictureBox::TakePictureSize() {
     Height = MeasureOf(picture.Height(), units_.outer);
 }
 
+void PictureBox::SizeInPixels(int width, int height) {
+    ResumeNext([&] { Height = MeasureOf(height, units_.outer); });
+    ResumeNext([&] { Width = MeasureOf(width, units_.outer); });
+}
+
 void PictureBox::FollowSize() {
     surface_.Resize(PixelsOf(Width, units_.outer), PixelsOf(Height, units_.outer));
 }

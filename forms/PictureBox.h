@@ -55,6 +55,8 @@ public:
     ScaleUnit ScaleMode() const { return units_.inner; }
     int PixelWidth() const { return surface_.Width(); }
     int PixelHeight() const { return surface_.Height(); }
+    // Sets Height and Width to so many pixels, each as a statement of its own.
+    void SizeInPixels(int width, int height);
 
     // The colour at a place in the box's scale, kOffPicture outside.
     Color Point(float x, float y) const;

@@ -24,6 +24,7 @@ constexpr std::array kDescriptions = {
     Row{ErrorNumber::FileAlreadyExists, "File already exists"},
     Row{ErrorNumber::DiskFull, "Disk full"},
     Row{ErrorNumber::InputPastEnd, "Input past end of file"},
+    Row{ErrorNumber::BadRecordNumber, "Bad record number"},
     Row{ErrorNumber::PermissionDenied, "Permission denied"},
     Row{ErrorNumber::PathFileAccess, "Path/File access error"},
     Row{ErrorNumber::PathNotFound, "Path not found"},

@@ -26,6 +26,7 @@ enum class ErrorNumber {
     FileAlreadyExists = 58,
     DiskFull = 61,
     InputPastEnd = 62,
+    BadRecordNumber = 63,
     PermissionDenied = 70,
     PathFileAccess = 75,
     PathNotFound = 76,

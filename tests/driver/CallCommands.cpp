@@ -1,5 +1,7 @@
 // Runs routines that no control reaches, as their callers would.
 #include "bridge/UncalledSends.h"
+#include "canvas/OpenAnyImage.h"
+#include "codecs/clsTiff.h"
 #include "codecs/modGDIPlus.h"
 #include "gradient/FormGradient.h"
 #include "gradient/HexRGB.h"
@@ -56,13 +58,44 @@ std::string SaveImage(Session& session, Words words) {
     return JsonBool(saved);
 }
 
+std::string LoadTiff(Session& session, Words words) {
+    FrmPicX& form = session.MainForm();
+    const NamedFiles::Naming naming(session.Files(), words[0]);
+    clsTiff tiff(form.picSmall, form.ports.files);
+    tiff.LoadTIFF(words[0]);
+    return "{\"width\":" + Json(tiff.ImageWidth()) + ",\"height\":" + Json(tiff.ImageHeight()) +
+           ",\"bitsPerPixel\":" + Json(tiff.BitsPerPixel()) + ",\"compression\":" + Json(tiff.Compression()) +
+           "}";
+}
+
+std::string OpenAny(Session& session, Words) {
+    OpenAnyImage(session.MainForm());
+    return {};
+}
+
+std::string OpenByExtension(Session& session, Words words) {
+    const NamedFiles::Naming naming(session.Files(), words[0]);
+    OpenFileByExtension(session.MainForm(), words[0]);
+    return {};
+}
+
+std::string SwapLong(Session&, Words words) {
+    int number = Read<int>(words[0]);
+    clsTiff::SwapBytesLong(number);
+    return Json(number);
+}
+
 // A routine is run like a command: its name, then its arguments.
 constexpr std::array kRoutines = {
     Command{"ApplyMaterialToLayerFaces", "", 0, 0, ApplyMaterial},
     Command{"FormGradient", "HOLDER R1 G1 B1 R2 G2 B2", 7, 7, PaintGradient},
     Command{"HexRGB", "R G B", 3, 3, Hex},
+    Command{"LoadTIFF", "FILE", 1, 1, LoadTiff},
+    Command{"OpenAnyImage", "", 0, 0, OpenAny},
+    Command{"OpenFileByExtension", "FILE", 1, 1, OpenByExtension},
     Command{"SaveImageGDIPlus", "HOLDER FILE", 2, 2, SaveImage},
     Command{"SendMaterialAfterSave", "", 0, 0, SendAfterSave},
+    Command{"SwapBytesLong", "N", 1, 1, SwapLong},
 };
 
 std::string Call(Session& session, Words words) {

@@ -1,6 +1,7 @@
 #include "gradient/FormGradient.h"
 #include "tests/driver/TestConversation.h"
 #include "tests/support/Patterns.h"
+#include "tests/support/TestTiff.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -67,6 +68,43 @@ TEST_F(CallCommands, PaintTheFormGradientOnAnyHolder) {
 
 TEST_F(CallCommands, TellAColourInHexadecimal) {
     EXPECT_EQ(say("call HexRGB 255 128 0"), R"(ok "&H0080FF&")");
+}
+
+TEST_F(CallCommands, LoadATiffFileOfTheMachineAndTellItsFields) {
+    const test::TestTiff file{test::TiffFields(2, 1, 8, 1, 1, 1, 1), {{5, 6}}};
+    say.machine.AddFile("C:\\scan.tif", test::TiffBytes(file));
+    EXPECT_EQ(say("call LoadTIFF C:\\scan.tif"),
+              R"(ok {"width":2,"height":1,"bitsPerPixel":8,"compression":1})");
+    EXPECT_EQ(say("point picSmall 1 0"), "ok " + std::to_string(RGB(6, 6, 6)));
+    EXPECT_EQ(say.files.Text("C:\\komp.txt"), "\5\6"); // in the program's own world
+    EXPECT_FALSE(say.machine.FileExists("C:\\komp.txt"));
+    EXPECT_EQ(say("call LoadTIFF C:\\none.tif"), "error run-time 53 File not found");
+    EXPECT_TRUE(say.Form().picSmall.Picture().IsEmpty());
+}
+
+TEST_F(CallCommands, OpenAnyKindOfFileByItsExtension) {
+    const test::TestTiff file{test::TiffFields(2, 1, 8, 1, 1, 1, 1), {{5, 6}}};
+    say.machine.AddFile("C:\\scan.TIF", test::TiffBytes(file));
+    EXPECT_EQ(say("call OpenFileByExtension C:\\scan.TIF"), "ok");
+    EXPECT_EQ(say.Form().picSmall.Picture().Width(), 2);
+    say.loader.pictures["C:\\a.bmp"] = test::ChartPicture(5, 4);
+    EXPECT_EQ(say("call OpenFileByExtension C:\\a.bmp"), "ok");
+    EXPECT_EQ(say.Form().picSmall.Picture().Width(), 5);
+    EXPECT_THAT(say("call OpenFileByExtension C:\\a.png"), StartsWith("error run-time 91 "));
+}
+
+TEST_F(CallCommands, OpenAnyKindOfFileFromTheDialog) {
+    say.loader.pictures["C:\\a.bmp"] = test::ChartPicture(5, 4);
+    EXPECT_EQ(say("answer open C:\\a.bmp"), "ok");
+    EXPECT_EQ(say("call OpenAnyImage"), "ok");
+    EXPECT_EQ(say.Form().picSmall.Picture().Width(), 5);
+    EXPECT_THAT(say("dialogs"), HasSubstr("*.pcx"));
+}
+
+TEST_F(CallCommands, SwapTheBytesOfANumber) {
+    EXPECT_EQ(say("call SwapBytesLong 1"), "ok 16777216");
+    EXPECT_EQ(say("call SwapBytesLong 128"), "ok -2147483648");
+    EXPECT_EQ(say("call SwapBytesLong -2"), "ok -16777217");
 }
 
 TEST(NamedFilesTest, LeadOneNameToTheMachineForAWhile) {

@@ -67,6 +67,18 @@ TEST_F(PictureBoxTest, KeepsItsSizeWhereAnotherCanNotBe) {
     EXPECT_EQ(box.PixelWidth(), 10);
 }
 
+TEST_F(PictureBoxTest, TakesASizeInPixelsWhateverItsUnits) {
+    PictureBox twips(form, "Picture2", kTwips);
+    twips.SizeInPixels(7, 5);
+    EXPECT_EQ(twips.Width(), 105);
+    EXPECT_EQ(twips.PixelHeight(), 5);
+    box.SizeInPixels(7, 5);
+    EXPECT_EQ(box.Width(), 7);
+    box.SizeInPixels(-1, 9); // the one that can't be is passed over
+    EXPECT_EQ(box.PixelWidth(), 7);
+    EXPECT_EQ(box.PixelHeight(), 9);
+}
+
 TEST_F(PictureBoxTest, TellsEachAssignmentOfAPicture) {
     int changes = 0;
     box.Change.Connect([&] {

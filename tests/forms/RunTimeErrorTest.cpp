@@ -26,6 +26,7 @@ TEST(RunTimeError, CarriesTheUsualTextOfItsNumber) {
         {58, "File already exists"},
         {61, "Disk full"},
         {62, "Input past end of file"},
+        {63, "Bad record number"},
         {70, "Permission denied"},
         {75, "Path/File access error"},
         {76, "Path not found"},
