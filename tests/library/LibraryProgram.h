@@ -22,7 +22,9 @@ struct LibraryProgram : TestProgram {
 
     // A file in a folder that the loader reads as a picture of its own.
     Picture AddPicture(const std::string& folder, const std::string& name, int width = 40, int height = 30) {
-        const std::string path = folder.back() == '\\' ? folder + name : folder + '\\' + name;
+        std::string path = folder;
+        if (path.back() != '\\') path += '\\';
+        path += name;
         files.AddFile(path, "a picture");
         return loader.pictures[path] = ChartPicture(width, height, static_cast<std::uint8_t>(++marks_));
     }
@@ -44,7 +46,7 @@ struct LibraryProgram : TestProgram {
     }
     // Adds a file and clicks it, in a folder that is shown anew.
     Picture ClickNewPicture(const std::string& name, int width = 40, int height = 30) {
-        const Picture picture = AddPicture(form.File5.Path(), name, width, height);
+        Picture picture = AddPicture(form.File5.Path(), name, width, height);
         form.File5.Refresh();
         ClickFile(name);
         return picture;
