@@ -80,15 +80,13 @@ void SuperBatchPanel::PreviewRow() {
     const auto parts = Split(row, std::string(1, form_.ports.files.Separator()));
     form_.Label8(2).Caption = "File: " + (parts.empty() ? std::string() : parts.back());
     // One decoding serves all surfaces; a file that can't be read leaves them as they are.
-    ResumeNext([&] {
-        const Picture loaded = form_.ports.loader.LoadPicture(row);
-        if (form_.ckLoad.Value == kChecked) {
-            form_.PicImage.Picture = loaded;
-            form_.picSmall.Picture = loaded;
-        }
-        form_.Picture = loaded;
-        if (form_.ckLoad.Value == kChecked) form_.Picture3.Picture = loaded;
-    });
+    Picture loaded;
+    if (!ResumeNext([&] { loaded = form_.ports.loader.LoadPicture(row); })) return;
+    const bool load = form_.ckLoad.Value == kChecked;
+    if (load) ResumeNext([&] { form_.PicImage.Picture = loaded; });
+    if (load) ResumeNext([&] { form_.picSmall.Picture = loaded; });
+    ResumeNext([&] { form_.Picture = loaded; });
+    if (load) ResumeNext([&] { form_.Picture3.Picture = loaded; });
 }
 
 void SuperBatchPanel::RemoveRow() {

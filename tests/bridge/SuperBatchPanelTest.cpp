@@ -94,6 +94,16 @@ TEST_F(SuperBatchPanelTest, ARowThatCannotBeReadKeepsEveryPicture) {
     EXPECT_TRUE(form.PicImage.Picture().SharesPixelsWith(picture));
 }
 
+TEST_F(SuperBatchPanelTest, AHolderThatFailsLeavesTheOthersTheirPicture) {
+    form.PicImage.Change.Connect([] { throw RunTimeError(ErrorNumber::OutOfMemory); });
+    form.picSmall.Change.Connect([] { throw RunTimeError(ErrorNumber::OutOfMemory); });
+    form.ckLoad.Value = kChecked;
+    form.List2.SetListIndex(0);
+    EXPECT_TRUE(form.picSmall.Picture().SharesPixelsWith(picture));
+    EXPECT_TRUE(form.Picture().SharesPixelsWith(picture));
+    EXPECT_TRUE(form.Picture3.Picture().SharesPixelsWith(picture));
+}
+
 TEST_F(SuperBatchPanelTest, ADoubleClickRemovesTheRowAndCounts) {
     form.List2.SetListIndex(0);
     form.List2.UserDblClick();
