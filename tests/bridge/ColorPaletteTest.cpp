@@ -31,6 +31,16 @@ TEST_F(ColorPaletteTest, ComesWithAChartLargeEnoughToPickFrom) {
     EXPECT_LT(red.blue, 60);
 }
 
+TEST_F(ColorPaletteTest, EachShowingOrHidingSizesThePanel) {
+    for (int click = 0; click < 2; ++click) {
+        form.FramePics.Height = 1;
+        form.FramePics.Width = 1;
+        form.cmdColorPick.UserClick();
+        EXPECT_EQ(form.FramePics.Height, 3650);
+        EXPECT_EQ(form.FramePics.Width, 3945);
+    }
+}
+
 TEST_F(ColorPaletteTest, TenSamplesFillTheSlotsInOrderAndTheEleventhNone) {
     for (int sample = 0; sample < 11; ++sample) {
         Press(static_cast<float>(sample), 50);

@@ -37,6 +37,14 @@ TEST_F(ColorDialogsTest, CancelKeepsHairlineAndCanvas) {
     EXPECT_EQ(program.desktop.dialogs.dialogs.size(), 2U);
 }
 
+TEST_F(ColorDialogsTest, EachClickThatShowsADialogAsksForTheErrorOfACancel) {
+    for (const int index : {0, 1, 4}) {
+        form.CDialog1.CancelError = false;
+        form.cmdColorDialog(index).UserClick();
+        EXPECT_TRUE(form.CDialog1.CancelError) << index;
+    }
+}
+
 TEST_F(ColorDialogsTest, TheCanvasColourHalvesAsOneNumberAroundIt) {
     const struct {
         Color color, surround;
