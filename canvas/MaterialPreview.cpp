@@ -41,14 +41,12 @@ void MaterialPreview::MouseDown(const MouseArgs& mouse) {
     }
 }
 
+// The box is sized by itself ahead of the picture: the size stays also where there is no picture to be had.
 void MaterialPreview::SendToCanvas() {
-    ResumeNext([this] {
-        const Picture material = form_.picSmall.Image();
-        form_.PicImage.Width = form_.picSmall.Width;
-        form_.PicImage.Height = form_.picSmall.Height;
-        form_.PicImage.Picture = material;
-        form_.Picture = material;
-    });
+    ResumeNext([this] { form_.PicImage.Width = form_.picSmall.Width; });
+    ResumeNext([this] { form_.PicImage.Height = form_.picSmall.Height; });
+    ResumeNext([this] { form_.PicImage.Picture = form_.picSmall.Image(); });
+    ResumeNext([this] { form_.Picture = form_.picSmall.Image(); });
 }
 
 void MaterialPreview::MakeHandCopy() {

@@ -27,18 +27,19 @@ void OpenImage::OpenFromDialog() {
     try {
         dialog.ShowOpen();
     } catch (const RunTimeError& error) {
-        if (error.Number() != ErrorNumber::DialogCancelled) return;
-        form_.ports.dialogs.MsgBox("Open cancelled", MessageButtons::Ok, App::Title);
-        return;
+        if (error.Number() == ErrorNumber::DialogCancelled) {
+            form_.ports.dialogs.MsgBox("Open cancelled", MessageButtons::Ok, App::Title);
+            return;
+        }
     }
     // One decoding serves both holders; a file that can't be read changes neither of them.
     Picture opened;
     const bool readable = ResumeNext([&] { opened = form_.ports.loader.LoadPicture(dialog.FileName); });
-    form_.picSmall.AutoSize = true;
-    if (readable) form_.picSmall.Picture = opened;
+    ResumeNext([&] { form_.picSmall.AutoSize = true; });
+    if (readable) ResumeNext([&] { form_.picSmall.Picture = opened; });
     if (form_.Check4.Value == kChecked) {
-        form_.PicImage.AutoSize = true;
-        if (readable) form_.PicImage.Picture = opened;
+        ResumeNext([&] { form_.PicImage.AutoSize = true; });
+        if (readable) ResumeNext([&] { form_.PicImage.Picture = opened; });
         form_.Picture = form_.PicImage.Picture;
     }
 }

@@ -40,6 +40,35 @@ TEST_F(MaterialPreviewTest, AClickOnAnyLabelAboveItMakesItTheCanvas) {
     EXPECT_TRUE(form.Picture7.Picture().IsEmpty());
 }
 
+TEST_F(MaterialPreviewTest, AMaterialTooLargeForMemorySizesTheBoxAndLeavesTheCanvas) {
+    const Picture canvas = ChartPicture(9, 9);
+    form.PicImage.Picture = canvas;
+    form.Picture = canvas;
+    form.picSmall.Width = 40000;
+    form.picSmall.Height = 30000;
+    Press(1, 1, 2);
+    EXPECT_EQ(form.PicImage.Width, 40000);
+    EXPECT_EQ(form.PicImage.Height, 30000);
+    EXPECT_TRUE(form.PicImage.Picture().SharesPixelsWith(canvas));
+    EXPECT_TRUE(form.Picture().SharesPixelsWith(canvas));
+    EXPECT_EQ(form.Picture7.Width, 55);
+}
+
+TEST_F(MaterialPreviewTest, TheFormTakesItAlsoWhereTheCanvasBoxFails) {
+    form.PicImage.Change.Connect([] { throw RunTimeError(ErrorNumber::OutOfMemory); });
+    form.Label2(0).UserClick();
+    EXPECT_TRUE(form.Picture().SharesPixelsWith(material));
+}
+
+TEST_F(MaterialPreviewTest, TheHandCopyIsFiftyFiveBothWays) {
+    Press(1, 1, 2);
+    EXPECT_EQ(form.Picture7.Picture().Width(), 60);
+    form.Picture7.AutoSize = false;
+    Press(1, 1, 2);
+    EXPECT_EQ(form.Picture7.Width, 55);
+    EXPECT_EQ(form.Picture7.Height, 55);
+}
+
 TEST_F(MaterialPreviewTest, ALeftClickSamplesIntoTheFirstFreeSlotFromOneOn) {
     form.Text2x(1).Text = "1,2,3";
     Press(12, 34, 1);
@@ -112,6 +141,30 @@ TEST_F(MaterialPreviewTest, TheScrollBarsMoveIt) {
     EXPECT_EQ(form.picSmall.Top, -12);
     form.VSImage.UserDrop();
     EXPECT_EQ(form.picSmall.Top, -12);
+}
+
+TEST_F(MaterialPreviewTest, BothBarsMoveItInASetAndInADrag) {
+    struct Bar {
+        ScrollBar& bar;
+        const Property<float>& place;
+    };
+    for (const Bar& each : {Bar{form.HSImage, form.picSmall.Left}, Bar{form.VSImage, form.picSmall.Top}}) {
+        each.bar.UserSet(7);
+        EXPECT_EQ(each.place, -7) << each.bar.Name();
+        each.bar.UserDrag(20);
+        EXPECT_EQ(each.place, -20) << each.bar.Name();
+        each.bar.UserDrop();
+        EXPECT_EQ(each.place, -20) << each.bar.Name();
+        each.bar.Value = 3;
+        EXPECT_EQ(each.place, -3) << each.bar.Name();
+    }
+}
+
+TEST_F(MaterialPreviewTest, AClickOnItWithoutAPressDoesNothing) {
+    form.PicImage.Picture = Picture();
+    form.picSmall.UserClick();
+    EXPECT_EQ(form.List1.ListCount(), 0);
+    EXPECT_TRUE(form.PicImage.Picture().IsEmpty());
 }
 
 TEST_F(MaterialPreviewTest, TheLockHoldsItsSize) {

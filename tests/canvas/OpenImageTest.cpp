@@ -99,6 +99,45 @@ TEST_F(OpenImageTest, AFileThatIsNoPictureChangesNothingAndSaysNothing) {
     EXPECT_TRUE(program.desktop.dialogs.messages.empty());
 }
 
+TEST_F(OpenImageTest, AFileThatIsNoPictureBringsTheFormBackToTheCanvas) {
+    form.Picture = ChartPicture(5, 5);
+    form.picSmall.AutoSize = false;
+    form.PicImage.AutoSize = false;
+    form.Check4.Value = kUnchecked;
+    Choose("D:\\missing.jpg");
+    EXPECT_FALSE(form.Picture().SharesPixelsWith(former));
+    EXPECT_TRUE(form.picSmall.AutoSize);
+    EXPECT_FALSE(form.PicImage.AutoSize);
+    form.Check4.Value = kChecked;
+    Choose("D:\\missing.jpg");
+    EXPECT_TRUE(form.Picture().SharesPixelsWith(former));
+    EXPECT_TRUE(form.PicImage.AutoSize);
+}
+
+TEST_F(OpenImageTest, AHolderThatFailsLeavesTheOthersTheirPicture) {
+    form.picSmall.Change.Connect([] { throw RunTimeError(ErrorNumber::OutOfMemory); });
+    form.PicImage.Change.Connect([] { throw RunTimeError(ErrorNumber::OutOfMemory); });
+    Choose("D:\\wall.jpg");
+    EXPECT_TRUE(form.PicImage.Picture().SharesPixelsWith(wall));
+    EXPECT_TRUE(form.Picture().SharesPixelsWith(wall));
+}
+
+TEST_F(OpenImageTest, EachClickAsksForTheErrorOfACancel) {
+    for (int click = 0; click < 2; ++click) {
+        form.CDialog1.CancelError = false;
+        form.Command23.UserClick();
+        EXPECT_TRUE(form.CDialog1.CancelError);
+    }
+    EXPECT_EQ(program.desktop.dialogs.messages.size(), 2U);
+}
+
+TEST_F(OpenImageTest, TheFileChosenLastIsNotOpenedAgainByACancel) {
+    Choose("D:\\wall.jpg");
+    form.picSmall.Picture = former;
+    form.Command23.UserClick();
+    EXPECT_TRUE(form.picSmall.Picture().SharesPixelsWith(former));
+}
+
 TEST_F(OpenImageTest, CropAfterOpeningIntoTheMaterialImageAloneCutsTheOldCanvas) {
     form.Check4.Value = kUnchecked;
     Choose("D:\\wall.jpg");

@@ -47,6 +47,33 @@ TEST_F(PasteTest, SizesTheThumbnailFromTheMaterialImage) {
     EXPECT_FLOAT_EQ(form.Image1.Height, 300);
 }
 
+TEST_F(PasteTest, TheThumbnailStartsFromNineTenthsOfTheMaterialImage) {
+    form.ckKeep.Value = kChecked;
+    // Nine tenths are 350 exactly: neither below the limit nor above it.
+    form.picSmall.Width = 388.8889F;
+    form.picSmall.Height = 388.8889F;
+    PutOnClipboard(grab);
+    form.Command5.UserClick();
+    EXPECT_EQ(form.Image1.Width, 350);
+    EXPECT_EQ(form.Image1.Height, 300);
+}
+
+TEST_F(PasteTest, TheGradientRunsDownwardsTwiceWhileItsPanelIsShown) {
+    std::vector<int> directions;
+    form.cmdGradV.OnClick([&](int index) { directions.push_back(index); });
+    PutOnClipboard(grab);
+    form.Command5.UserClick();
+    EXPECT_TRUE(directions.empty());
+    form.FrameGradFX.Visible = true;
+    form.GradDirectionH = true; // the first run itself makes the direction downwards
+    form.Command5.UserClick();
+    EXPECT_EQ(directions, (std::vector<int>{1, 1}));
+    form.ckAutoPaste.Value = kChecked;
+    program.desktop.clipboard.Clear();
+    form.Command5.UserClick();
+    EXPECT_EQ(directions.size(), 2U);
+}
+
 TEST_F(PasteTest, WithoutABitmapTellsSoAndChangesNothing) {
     form.PicImage.Picture = former;
     form.ClipboardIsSource = true;
@@ -137,6 +164,15 @@ TEST_F(PasteTest, Command12PutsTheMaterialImageOnTheClipboard) {
     form.Command12.UserClick();
     EXPECT_TRUE(program.desktop.clipboard.bitmap.SharesPixelsWith(former));
     EXPECT_FALSE(program.desktop.clipboard.text.has_value());
+}
+
+TEST_F(PasteTest, Command12ClearsTheClipboardAlsoWhereThereIsNoImageToBeHad) {
+    form.picSmall.Width = 40000;
+    form.picSmall.Height = 30000;
+    PutOnClipboard(grab);
+    form.Command12.UserClick();
+    EXPECT_FALSE(program.desktop.clipboard.HasBitmap());
+    EXPECT_TRUE(program.desktop.dialogs.messages.empty());
 }
 
 TEST_F(PasteTest, HoldersSharePixelsUntilOneIsPainted) {

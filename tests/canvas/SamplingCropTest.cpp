@@ -62,6 +62,13 @@ TEST_F(SamplingCropTest, OneDragFromPressToNamedMaterial) {
     EXPECT_EQ(form.textProfileName.Text(), "Art_6");
 }
 
+TEST_F(SamplingCropTest, TheThumbnailStartsFromHalfTheRectangle) {
+    form.PicImage.Picture = ChartPicture(800, 800, 3);
+    Drag(10, 10, 710, 710); // half of it is 350 exactly: neither below the limit nor above it
+    EXPECT_FLOAT_EQ(form.Image1.Width, 350);
+    EXPECT_FLOAT_EQ(form.Image1.Height, 300);
+}
+
 TEST_F(SamplingCropTest, AClickCropsTheTypedSizeWithItsTopLeftAtTheClick) {
     form.TextCrop(0).Text = "30"; // height
     form.TextCrop(1).Text = "50"; // width
@@ -315,8 +322,14 @@ TEST_F(SamplingCropTest, WithTheFloorBarAPressMovesItsMarkerAndDrawsNoRectangle)
     EXPECT_FALSE(form.Shape2.Visible);
     EXPECT_FALSE(form.CropDragging.IsTrue());
     EXPECT_EQ(form.CropStartX, Variant(40.0F));
+    EXPECT_EQ(form.CropStartY, Variant(60.0F));
+    const Shape& rectangle = form.Shape1;
+    const float before[] = {rectangle.Left, rectangle.Top, rectangle.Width, rectangle.Height};
+    form.Caption = "as it was";
     Move(80, 90);
     EXPECT_FALSE(form.Shape2.Visible);
+    EXPECT_EQ(form.Caption(), "as it was");
+    ExpectRectangle(rectangle, before[0], before[1], before[2], before[3]);
 }
 
 TEST_F(SamplingCropTest, TheCropReadsPicImageAndNotTheFormsPicture) {
