@@ -60,7 +60,7 @@ void cJPEG::Quality(int value) {
 }
 
 void cJPEG::SetSamplingFrequencies(int H1, int V1, int H2, int V2, int H3, int V3) {
-    jpeg::SetSamplingFrequencies(frame_, H1, V1, H2, V2, H3, V3);
+    jpeg::RaisingOutOfMemory([&] { jpeg::SetSamplingFrequencies(frame_, H1, V1, H2, V2, H3, V3); });
 }
 
 void cJPEG::Comment(const std::string& value) {
@@ -99,24 +99,34 @@ void cJPEG::TransformPlanes(Planes& planes, const std::vector<jpeg::PlaneSize>& 
 
 int cJPEG::SampleDATA(std::span<const std::uint8_t> data, int columns, int rows, int width, int height, int x,
                       int y) {
-    BeginPicture(width, height);
-    const int w8 = jpeg::RoundedUpTo8(width);
-    const int h8 = jpeg::RoundedUpTo8(height);
+    return jpeg::RaisingOutOfMemory([&] {
+        return SampleArray({data, columns, rows}, {x, y, width, height});
+    });
+}
+
+int cJPEG::SampleArray(const jpeg::PixelData& data, const PixelArea& picture) {
+    BeginPicture(picture.width, picture.height);
+    const int w8 = jpeg::RoundedUpTo8(picture.width);
+    const int h8 = jpeg::RoundedUpTo8(picture.height);
     // The step between samples would be the quotient of two zeros.
     if (w8 < 1 || h8 < 1) throw RunTimeError(ErrorNumber::Overflow);
     const std::vector<jpeg::PlaneSize> sizes = PlaneSizes(w8, h8);
-    jpeg::DataPlanes planes({data, columns, rows}, {x, y, width, height}, w8, h8, sizes);
+    jpeg::DataPlanes planes(data, picture, w8, h8, sizes);
     TransformPlanes(planes, sizes);
     return kDone;
 }
 
 int cJPEG::SampleHDC(const Bitmap& surface, int width, int height, int x, int y) {
-    BeginPicture(width, height);
-    const int w8 = jpeg::RoundedUpTo8(width);
-    const int h8 = jpeg::RoundedUpTo8(height);
+    return jpeg::RaisingOutOfMemory([&] { return SampleSurface(surface, {x, y, width, height}); });
+}
+
+int cJPEG::SampleSurface(const Bitmap& surface, const PixelArea& picture) {
+    BeginPicture(picture.width, picture.height);
+    const int w8 = jpeg::RoundedUpTo8(picture.width);
+    const int h8 = jpeg::RoundedUpTo8(picture.height);
     if (surface.IsEmpty() || !CanBeMade(w8, h8)) return kNoSurface;
     const std::vector<jpeg::PlaneSize> sizes = PlaneSizes(w8, h8);
-    std::optional<jpeg::SurfacePlanes> planes = MakePlanes(surface, {x, y, width, height}, w8, h8, sizes);
+    std::optional<jpeg::SurfacePlanes> planes = MakePlanes(surface, picture, w8, h8, sizes);
     if (!planes) return kNoSurface;
     TransformPlanes(*planes, sizes);
     return kDone;
@@ -125,7 +135,12 @@ int cJPEG::SampleHDC(const Bitmap& surface, int width, int height, int x, int y)
 int cJPEG::SaveFileJPG(const std::string& fileName, FileSystem& files) {
     if (fileName.empty()) return kNoFileName;
     if (files.FileExists(fileName)) return kFileExists;
+    const auto file = [&] { return MakeFile(); };
+    files.WriteFile(fileName, jpeg::RaisingOutOfMemory(file).Written());
+    return kDone;
+}
 
+jpeg::OutBuffer cJPEG::MakeFile() const {
     const std::vector<jpeg::ScanGroup> groups = jpeg::GroupComponents(frame_);
     jpeg::HuffmanTables tables;
     const Long estimate = jpeg::OptimizeTables(frame_, groups, tables);
@@ -136,13 +151,12 @@ int cJPEG::SaveFileJPG(const std::string& fileName, FileSystem& files) {
     for (const auto& component : frame_.Components)
         coefficients += component.Coefficients.Size();
     jpeg::OutBuffer out(static_cast<std::size_t>(last.Value()) + 1 + kRoomForCoefficient * coefficients);
-    WriteFile(out, groups, tables);
-    files.WriteFile(fileName, out.Written());
-    return kDone;
+    WriteSegments(out, groups, tables);
+    return out;
 }
 
-void cJPEG::WriteFile(jpeg::OutBuffer& out, const std::vector<jpeg::ScanGroup>& groups,
-                      const jpeg::HuffmanTables& tables) const {
+void cJPEG::WriteSegments(jpeg::OutBuffer& out, const std::vector<jpeg::ScanGroup>& groups,
+                          const jpeg::HuffmanTables& tables) const {
     using jpeg::Marker;
     using jpeg::TableClass;
     const std::int32_t tableCount = frame_.Nf() > 1 ? 2 : 1;

@@ -7,9 +7,11 @@
 // file each.
 //
 // Set sampling factors, quality and comment first, then call one of the Sample operations, then SaveFileJPG.
-// A Sample operation uses the tables and factors as they stand at that moment.
+// A Sample operation uses the tables and factors as they stand at that moment. Every operation raises error 7
+// when the memory for it can't be had.
 #pragma once
 
+#include "codecs/jpeg/DataPlanes.h"
 #include "codecs/jpeg/Frame.h"
 #include "codecs/jpeg/Geometry.h"
 #include "codecs/jpeg/OptimizeTables.h"
@@ -39,7 +41,7 @@ public:
     // Samples width x height pixels of an array of columns x rows x 3 bytes: blue, green, red, then by
     // column, then by row, the picture's lowest row first. (x, y) is the first column and row to take. Raises
     // error 9 where a sample lies outside of the array or has no place in its plane, error 6 for an empty
-    // picture.
+    // picture and for one whose bytes leave 32 bits.
     int SampleDATA(std::span<const std::uint8_t> data, int columns, int rows, int width, int height, int x,
                    int y);
 
@@ -67,13 +69,16 @@ public:
     int SaveFileJPG(const std::string& fileName, FileSystem& files);
 
 private:
+    int SampleArray(const jpeg::PixelData& data, const PixelArea& picture);
+    int SampleSurface(const Bitmap& surface, const PixelArea& picture);
     // Forgets the planes of a picture before and begins one of this size.
     void BeginPicture(int width, int height);
     std::vector<jpeg::PlaneSize> PlaneSizes(int w8, int h8) const;
     template <class Planes>
     void TransformPlanes(Planes& planes, const std::vector<jpeg::PlaneSize>& sizes);
-    void WriteFile(jpeg::OutBuffer& out, const std::vector<jpeg::ScanGroup>& groups,
-                   const jpeg::HuffmanTables& tables) const;
+    jpeg::OutBuffer MakeFile() const;
+    void WriteSegments(jpeg::OutBuffer& out, const std::vector<jpeg::ScanGroup>& groups,
+                       const jpeg::HuffmanTables& tables) const;
 
     jpeg::Frame frame_;
     std::array<jpeg::QuantTable, 2> QuantTables_;

@@ -1,9 +1,9 @@
 #include "codecs/jpeg/DataPlanes.h"
 
+#include "forms/Numbers.h"
 #include "forms/RunTimeError.h"
 
 #include <cmath>
-#include <new>
 #include <utility>
 
 namespace mirelle::jpeg {
@@ -39,12 +39,9 @@ PlaneView DataPlanes::Next() {
 void DataPlanes::Fetch(const PlaneSize& plane) {
     const int stepX = StepOf(w8_, plane.xi);
     const int stepY = StepOf(h8_, plane.yi);
-    const std::size_t rowBytes = static_cast<std::size_t>(plane.xa) * kPixelBytes;
-    try {
-        buffer_.assign(rowBytes * static_cast<std::size_t>(plane.ya), 0);
-    } catch (const std::bad_alloc&) {
-        throw RunTimeError(ErrorNumber::OutOfMemory);
-    }
+    const Long rowLength = Long(plane.xa) * Long(static_cast<int>(kPixelBytes));
+    const auto rowBytes = static_cast<std::size_t>(rowLength.Value());
+    buffer_.assign(static_cast<std::size_t>((rowLength * Long(plane.ya)).Value()), 0);
     const std::int64_t left = picture_.x;
     const std::int64_t bottom = picture_.y;
     std::size_t rowStart = 0;

@@ -29,7 +29,7 @@ public:
                std::vector<PlaneSize> planes);
 
     // The next plane; the view is good until the call after. Raises error 9 where the picture reaches beyond
-    // the data, or its samples beyond the plane.
+    // the data, or its samples beyond the plane, 6 where the plane's bytes leave 32 bits.
     PlaneView Next();
 
 private:

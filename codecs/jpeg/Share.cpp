@@ -4,6 +4,7 @@
 #include <atomic>
 #include <exception>
 #include <mutex>
+#include <new>
 #include <system_error>
 #include <thread>
 #include <vector>
@@ -57,12 +58,13 @@ void RunShared(const Slices& slices, const std::function<void(std::size_t)>& wor
     {
         std::vector<std::jthread> threads;
         const std::size_t helpers = std::min(ThreadCount(), slices.Number()) - 1;
-        threads.reserve(helpers);
+        // Where no thread or no memory for one is to be had, those that there are do the work of all.
         try {
+            threads.reserve(helpers);
             while (threads.size() < helpers)
                 threads.emplace_back([&queue] { queue.RunUntilEmpty(); });
         } catch (const std::system_error&) {
-            // Those that there are do the work of all.
+        } catch (const std::bad_alloc&) {
         }
         queue.RunUntilEmpty();
     }
