@@ -120,11 +120,12 @@ void FastSave::SaveJPG(const std::string& path) {
     jpeg.SaveFileJPG(path, form_.ports.files);
 }
 
-// A file that does not go at once, a read-only one say, is made writable first.
+// A file that does not go at once, a read-only one say, is made writable first, unless it is hidden: that one
+// stays, and keeps the writer from its name.
 void FastSave::DeleteWhatIsThere(const std::string& path) {
     FileSystem& files = form_.ports.files;
     ResumeNext([&] { files.DeleteFile(path); });
-    if (!files.FileExists(path)) return;
+    if (!files.FileExists(path) || files.IsHidden(path)) return;
     files.MakeWritable(path);
     files.DeleteFile(path);
 }

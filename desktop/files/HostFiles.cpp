@@ -128,13 +128,17 @@ void GiveWritePermission(const std::string& path) {
         RaiseSystemError(errno, Action::Delete, path);
 }
 
+bool IsHiddenName(const std::string& name) {
+    return name.starts_with('.');
+}
+
 std::vector<std::string> EntryNames(const std::string& folder, EntryKind kind,
                                     const FollowsLink& followsLink) {
     const OpenFolder open{::opendir(folder.c_str())};
     if (!open) throw RunTimeError(ErrorNumber::PathNotFound);
     std::vector<std::string> names;
     while (const dirent* entry = ::readdir(open.get())) {
-        if (entry->d_name[0] == '.') continue;
+        if (IsHiddenName(entry->d_name)) continue;
         if (IsOfKind(open, *entry, kind, followsLink)) names.emplace_back(entry->d_name);
     }
     return names;

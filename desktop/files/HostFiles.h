@@ -46,12 +46,15 @@ void DeleteRegularFile(const std::string& path);
 // Gives the owner the permission to write. Raises 53 (no such file), 75 (not permitted).
 void GiveWritePermission(const std::string& path);
 
+// Whether a name begins with a point.
+bool IsHiddenName(const std::string& name);
+
 enum class EntryKind { File, Folder };
 
 // Asked for each link in a folder: whether to look at what it leads to.
 using FollowsLink = std::function<bool(const std::string& name)>;
 
-// The names of the folder's regular files, or of its folders, that do not begin with a point, in no order.
+// The names of the folder's regular files, or of its folders, that are not hidden, in no order.
 // Links count as what they lead to. Entries whose kind the folder itself tells cost no further look, so that
 // a folder of 100,000 files is listed in one pass. Raises 76.
 std::vector<std::string> EntryNames(const std::string& folder, EntryKind kind,

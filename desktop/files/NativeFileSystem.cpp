@@ -97,6 +97,10 @@ bool NativeFileSystem::FileExists(const std::string& path) const {
     return IsPath(path) && IsInReach(path) && host::IsRegularFile(path);
 }
 
+bool NativeFileSystem::IsHidden(const std::string& path) const {
+    return FileExists(path) && host::IsHiddenName(path.substr(path.rfind('/') + 1));
+}
+
 std::vector<std::string> NativeFileSystem::FileNames(const std::string& folder) const {
     return NamesIn(folder, host::EntryKind::File);
 }

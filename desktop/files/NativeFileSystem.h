@@ -24,6 +24,7 @@ public:
     std::string ResolveFolder(const std::string& path) const override;
     bool FolderExists(const std::string& path) const override;
     bool FileExists(const std::string& path) const override;
+    bool IsHidden(const std::string& path) const override;
     std::vector<std::string> FileNames(const std::string& folder) const override;
     std::vector<std::string> FolderNames(const std::string& folder) const override;
 

@@ -77,6 +77,10 @@ bool RootedWindowsFileSystem::FileExists(const std::string& path) const {
     return place && !parsed.endsInSeparator && host::IsRegularFile(*place);
 }
 
+bool RootedWindowsFileSystem::IsHidden(const std::string& path) const {
+    return FileExists(path) && host::IsHiddenName(Parse(path).names.back());
+}
+
 std::vector<std::string> RootedWindowsFileSystem::FileNames(const std::string& folder) const {
     return NamesIn(folder, host::EntryKind::File);
 }

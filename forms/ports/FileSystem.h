@@ -32,6 +32,9 @@ public:
     virtual bool FolderExists(const std::string& path) const = 0;
     // Whether a file, and not a folder, stands there; hidden and read-only ones count.
     virtual bool FileExists(const std::string& path) const = 0;
+    // Whether the file that stands there is hidden: lists and plain searches leave it out. False where there
+    // is none.
+    virtual bool IsHidden(const std::string& path) const = 0;
     // Names of the regular files (through links too) that are not hidden, in no order. Raises error 76.
     virtual std::vector<std::string> FileNames(const std::string& folder) const = 0;
     // Names of the folders in it that are not hidden, in no order. Raises error 76.

@@ -41,6 +41,7 @@ public:
     }
 
     bool FileExists(const std::string& path) const override { return At(path).FileExists(path); }
+    bool IsHidden(const std::string& path) const override { return At(path).IsHidden(path); }
     std::vector<std::uint8_t> ReadFile(const std::string& path) const override {
         return At(path).ReadFile(path);
     }

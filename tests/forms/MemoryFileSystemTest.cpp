@@ -51,6 +51,9 @@ TEST(MemoryFileSystem, ListsFilesAndFoldersOfOneFolder) {
     EXPECT_THAT(files.Drives(), UnorderedElementsAre("c:", "d:"));
     EXPECT_TRUE(files.FileExists("C:\\Mirelle\\Art\\hidden.jpg"));
     EXPECT_FALSE(files.FileExists("C:\\Mirelle\\Art"));
+    EXPECT_TRUE(files.IsHidden("C:\\Mirelle\\Art\\hidden.jpg"));
+    EXPECT_FALSE(files.IsHidden("C:\\Mirelle\\Art\\Art_1.jpg"));
+    EXPECT_FALSE(files.IsHidden("C:\\Mirelle\\Art\\missing.jpg"));
 }
 
 TEST(MemoryFileSystem, ResolvesFoldersToTheirAbsoluteForm) {

@@ -364,23 +364,42 @@ public:
     void DeleteFile(const std::string&) override { throw RunTimeError(ErrorNumber::PermissionDenied); }
 };
 
-TEST(FastSaveOnAStubbornDisk, TellsThatTheFileCannotBeDeletedAndKeepsIt) {
+class FastSaveOnAStubbornDisk : public ::testing::Test {
+protected:
+    void SaveOver(MemoryFileSystem::Attribute attribute) {
+        files.AddFile(kArt + "\\Art_13.jpg", {'o', 'l', 'd'}, attribute);
+        Sampler sampler(desktop.PortsOver(files, loader, encoders));
+        sampler.form.Load();
+        sampler.form.Activate();
+        sampler.form.Dir5.SetPath(kArt);
+        sampler.form.picSmall.Picture = ChartPicture(8, 8);
+        sampler.form.textProfileName.Text = "Art_13";
+        desktop.dialogs.messageAnswers.push_back(MessageAnswer::Yes);
+        sampler.form.Command3.UserClick();
+        caption = sampler.form.Label2(1).Caption;
+        EXPECT_EQ(files.Text(kArt + "\\Art_13.jpg"), "old");
+        EXPECT_EQ(files.WriteCount(), 0);
+    }
+
     StubbornFileSystem files;
     ScriptedLoader loader;
     ScriptedEncoders encoders;
     ScriptedDesktop desktop;
-    Sampler sampler(desktop.PortsOver(files, loader, encoders));
-    files.AddFile(kArt + "\\Art_13.jpg", "as it was");
-    sampler.form.Load();
-    sampler.form.Activate();
-    sampler.form.Dir5.SetPath(kArt);
-    sampler.form.picSmall.Picture = ChartPicture(8, 8);
-    sampler.form.textProfileName.Text = "Art_13";
-    desktop.dialogs.messageAnswers.push_back(MessageAnswer::Yes);
-    sampler.form.Command3.UserClick();
+    std::string caption;
+};
+
+TEST_F(FastSaveOnAStubbornDisk, TellsThatTheFileCannotBeDeletedAndKeepsIt) {
+    SaveOver(MemoryFileSystem::Attribute::Normal);
     ASSERT_EQ(desktop.dialogs.messages.size(), 2U);
     EXPECT_EQ(desktop.dialogs.messages[1].text, "Permission denied Mirelle");
-    EXPECT_EQ(files.Text(kArt + "\\Art_13.jpg"), "as it was");
+}
+
+// It is asked about, and then in the writer's way; that nothing was written is not told.
+TEST_F(FastSaveOnAStubbornDisk, HiddenFileIsNotSeenByTheSecondTryAndStays) {
+    SaveOver(MemoryFileSystem::Attribute::Hidden);
+    ASSERT_EQ(desktop.dialogs.messages.size(), 1U);
+    EXPECT_EQ(desktop.dialogs.messages[0].buttons, MessageButtons::YesNo);
+    EXPECT_EQ(caption, "Last Save: Art_13.jpg");
 }
 
 // Names of all kinds.

@@ -85,6 +85,9 @@ public:
         return folders_.contains(Key(Absolute(path)));
     }
     bool FileExists(const std::string& path) const override { return files_.contains(Key(Absolute(path))); }
+    bool IsHidden(const std::string& path) const override {
+        return FileExists(path) && Existing(path).attribute == Attribute::Hidden;
+    }
     std::vector<std::string> FileNames(const std::string& folder) const override {
         const std::string key = Key(ResolveFolder(folder));
         std::vector<std::string> names;

@@ -140,6 +140,10 @@ TEST_F(NativeFileSystemTest, ListsFilesAndFoldersApartAndLeavesOutWhatIsHidden) 
     EXPECT_THAT(Sorted(files_.FileNames(folder_.Path())), ElementsAre("Wall.JPG", "wall.jpg"));
     EXPECT_THAT(files_.FolderNames(folder_.Path()), ElementsAre("Art"));
     EXPECT_TRUE(files_.FileExists(folder_ / ".hidden.jpg"));
+    EXPECT_TRUE(files_.IsHidden(folder_ / ".hidden.jpg"));
+    EXPECT_FALSE(files_.IsHidden(folder_ / ".missing.jpg"));
+    EXPECT_FALSE(files_.IsHidden(folder_ / ".git"));
+    EXPECT_FALSE(files_.IsHidden(folder_ / "wall.jpg"));
 }
 
 TEST_F(NativeFileSystemTest, ListsLinksAsWhatTheyLeadTo) {

@@ -179,6 +179,9 @@ TEST_F(RootedWindowsFileSystemTest, ListsNoNameThatAWindowsDiskCannotHold) {
     EXPECT_THAT(files_.FileNames("C:\\"), ElementsAre("wall\xFF.jpg"));
     EXPECT_TRUE(files_.FileExists("C:\\wall\xFF.jpg"));
     EXPECT_TRUE(files_.FileExists("C:\\.hidden"));
+    EXPECT_TRUE(files_.IsHidden("C:\\.hidden"));
+    EXPECT_FALSE(files_.IsHidden("C:\\.missing"));
+    EXPECT_FALSE(files_.IsHidden("C:\\wall\xFF.jpg"));
 }
 
 TEST_F(RootedWindowsFileSystemTest, WritesNamesOf250Characters) {
