@@ -114,9 +114,10 @@ private:
     }
 
     std::span<Pixel> TargetRow(int row, const Part& part) {
+        const int first = to_.x + part.left;
+        const int count = part.right - part.left;
         return target_.Row(to_.y + row)
-            .subspan(static_cast<std::size_t>(to_.x + part.left),
-                     static_cast<std::size_t>(part.right - part.left));
+            .subspan(static_cast<std::size_t>(first), static_cast<std::size_t>(count));
     }
 
     void DrawWeighted(const Part& part);

@@ -40,9 +40,9 @@ private:
     std::array<Code, 256> codes_{};
 };
 
-// No block takes more bits: 64 values with codes of 16 bits and 16 bits of their own, and the symbols of long
-// runs, of which each stands for sixteen values.
-inline constexpr std::size_t kMostBitsOfBlock = 64 * 32;
+// No block takes more bits than 64 * 32: 64 values with codes of 16 bits and 16 bits of their own, and the
+// symbols of long runs, of which each stands for sixteen values.
+inline constexpr std::size_t kMostBitsOfBlock = 2048;
 
 struct ComponentCodes {
     SymbolCodes dc;

@@ -11,12 +11,12 @@ namespace mirelle::jpeg {
 
 // Number of significant bits of |value|; 0 for 0. |value| lies below 65536.
 inline int BitLength(std::int32_t value) {
-    return std::bit_width(static_cast<std::uint32_t>(std::abs(value)));
+    return static_cast<int>(std::bit_width(static_cast<std::uint32_t>(std::abs(value))));
 }
 
 // The same for a value that is not 0: without the question.
 inline int BitLengthOfNonZero(std::int32_t value) {
-    return std::bit_width(static_cast<std::uint32_t>(std::abs(value)) | 1U);
+    return static_cast<int>(std::bit_width(static_cast<std::uint32_t>(std::abs(value)) | 1U));
 }
 
 // Sets Bits and HuffVal for the frequencies of the symbols 0..255, with no code longer than 16 bits and none

@@ -37,7 +37,8 @@ void CountAcSymbolsOfBlock(const std::int16_t* values, std::uint64_t nonZero, Co
         int run = k - last - 1;
         for (; run > 15; run -= 16)
             ++counts[0xF0];
-        ++counts[static_cast<std::size_t>(run * 16 + BitLengthOfNonZero(values[k]))];
+        const int symbol = run * 16 + BitLengthOfNonZero(values[k]);
+        ++counts[static_cast<std::size_t>(symbol)];
         last = k;
     }
     if (last != 63) ++counts[0];

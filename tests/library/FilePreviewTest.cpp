@@ -208,6 +208,25 @@ TEST_F(FilePreviewTest, ShownGradientPanelRunsTheGradientDownwards) {
     EXPECT_THAT(directions, ElementsAre(1, 1));
 }
 
+TEST_F(FilePreviewTest, ShownGradientPanelTurnsAGradientAcrossDownwards) {
+    std::vector<int> directions;
+    form.cmdGradV.OnClick([&](int index) { directions.push_back(index); });
+    form.FrameGradFX.Visible = true;
+    form.GradDirectionH = true;
+    program.ClickNewPicture("a.jpg");
+    EXPECT_THAT(directions, ElementsAre(1, 1));
+    EXPECT_TRUE(form.GradDirectionV);
+    EXPECT_FALSE(form.GradDirectionH);
+}
+
+TEST_F(FilePreviewTest, ShownGradientPanelLeavesTheGradientOnTheCanvas) {
+    form.FrameGradFX.Visible = true;
+    const Picture picture = program.ClickNewPicture("a.jpg", 40, 300);
+    EXPECT_FALSE(form.PicImage.Picture().SharesPixelsWith(picture));
+    EXPECT_EQ(form.PicImage.Picture().Height(), 300);
+    EXPECT_EQ(form.Picture().Pixels(), form.PicImage.Picture().Pixels());
+}
+
 // Thumbnail and preview.
 
 struct ThumbnailRow {

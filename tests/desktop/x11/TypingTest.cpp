@@ -103,11 +103,7 @@ TEST_F(TypingTest, AnotherLayoutOfTheUsersIsUsedWithoutAnyChangeOfTheMapping) {
 }
 
 TEST_F(TypingTest, MoreRareCharactersThanThereAreFreeKeysAllArrive) {
-    std::string text;
-    for (int i = 0; i < 100; ++i) {
-        const int code = 0x4E00 + i * 7;
-        text += {char(0xE0 | code >> 12), char(0x80 | (code >> 6 & 0x3F)), char(0x80 | (code & 0x3F))};
-    }
+    const std::string text = RareCharacters(100);
     ConsoleProcess console("Ruby Console");
     const std::vector<KeySym> mapping = KeyboardMapping();
     auto shell = ShellFor("Ruby Console");

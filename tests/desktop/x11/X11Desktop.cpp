@@ -1,6 +1,7 @@
 #include "tests/desktop/x11/X11Desktop.h"
 
 #include "desktop/x11/WindowFinder.h"
+#include "forms/Utf8.h"
 
 #include <X11/extensions/XInput2.h>
 #include <X11/extensions/XTest.h>
@@ -188,6 +189,13 @@ std::string Literally(const std::string& text) {
             written += c;
     }
     return written;
+}
+
+std::string RareCharacters(int count) {
+    std::string text;
+    for (int i = 0; i < count; ++i)
+        AppendCharacter(text, char32_t(0x4E00 + i * 7));
+    return text;
 }
 
 void WaitUntil(const std::function<bool()>& condition) {

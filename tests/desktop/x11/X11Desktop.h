@@ -64,6 +64,9 @@ private:
 // The text with braces around whatever has a meaning in the keystroke language.
 std::string Literally(const std::string& text);
 
+// So many different characters that no layout of the tests has.
+std::string RareCharacters(int count);
+
 // Looks until the condition holds. After some ten seconds the test fails.
 void WaitUntil(const std::function<bool()>& condition);
 
