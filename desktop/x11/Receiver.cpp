@@ -54,16 +54,20 @@ void SendPing(const Connection& connection, Window window, long stamp) {
     XSendEvent(connection.Server(), window, False, NoEventMask, &event);
 }
 
-// Whether the next event came before the deadline.
+// Input events are left for whoever watches the keyboards.
+Bool IsForUs(Display*, XEvent* event, XPointer) {
+    return event->type != GenericEvent ? True : False;
+}
+
+// Whether the next event for us came before the deadline.
 bool NextEventBefore(const Connection& connection, Clock::time_point deadline, XEvent& event) {
     Display* server = connection.Server();
-    while (XPending(server) == 0) {
+    while (XCheckIfEvent(server, &event, &IsForUs, nullptr) == False) {
         const auto left = std::chrono::duration_cast<milliseconds>(deadline - Clock::now()).count();
         if (left <= 0) return false;
         pollfd wait{ConnectionNumber(server), POLLIN, 0};
         poll(&wait, 1, int(left));
     }
-    XNextEvent(server, &event);
     return true;
 }
 
