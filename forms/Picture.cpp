@@ -1,9 +1,6 @@
 #include "forms/Picture.h"
 
-#include "forms/RunTimeError.h"
-
-#include <new>
-#include <stdexcept>
+#include "forms/OutOfMemory.h"
 
 namespace mirelle {
 namespace {
@@ -14,13 +11,9 @@ constexpr std::int64_t kMostPixels = std::int64_t{1} << 29;
 std::vector<Pixel> MakePixels(int width, int height, Pixel fill) {
     if (width < 0 || height < 0) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
     if (std::int64_t{width} * height > kMostPixels) throw RunTimeError(ErrorNumber::OutOfMemory);
-    try {
+    return WithinMemory([&] {
         return std::vector<Pixel>(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), fill);
-    } catch (const std::bad_alloc&) {
-        throw RunTimeError(ErrorNumber::OutOfMemory);
-    } catch (const std::length_error&) {
-        throw RunTimeError(ErrorNumber::OutOfMemory);
-    }
+    });
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "forms/Stretch.h"
 
-#include "forms/RunTimeError.h"
+#include "forms/OutOfMemory.h"
 
 #include <algorithm>
 #include <array>
@@ -249,7 +249,7 @@ void StretchHalftone(const Bitmap& source, const PixelArea& from, Bitmap& target
         if (length < 1) return;
     }
     if (source.IsEmpty() || target.IsEmpty()) return;
-    Stretch(source, from, target, to, clip).Draw();
+    WithinMemory([&] { Stretch(source, from, target, to, clip).Draw(); });
 }
 
 } // namespace mirelle

@@ -15,7 +15,8 @@
 namespace mirelle {
 
 // Draws `from` of the source over `to` of the target. Nothing is drawn where one of the areas or the source
-// holds no pixel. Raises error 5 for an area longer than kLongestStretch on a side.
+// holds no pixel. Raises error 5 for an area longer than kLongestStretch on a side, and error 7 where the
+// memory for the work can't be had.
 void StretchHalftone(const Bitmap& source, const PixelArea& from, Bitmap& target, const PixelArea& to);
 // The same, drawn only where `clip` of the target is.
 void StretchHalftone(const Bitmap& source, const PixelArea& from, Bitmap& target, const PixelArea& to,

@@ -1,6 +1,7 @@
 #include "forms/Surface.h"
 
 #include "forms/Numbers.h"
+#include "forms/OutOfMemory.h"
 #include "forms/Stretch.h"
 
 #include <algorithm>
@@ -83,7 +84,7 @@ Bitmap& Surface::Paint() {
     if (!image_) {
         image_ = Compose();
     } else if (image_.use_count() > 1) {
-        image_ = std::make_shared<Bitmap>(*image_);
+        image_ = WithinMemory([this] { return std::make_shared<Bitmap>(*image_); });
     }
     painted_ = true;
     return *image_;
