@@ -3,16 +3,16 @@
 #include "app/FrmPicX.h"
 
 namespace mirelle {
+namespace {
 
-void GetFXBits(FrmPicX& form) {
-    form.MousePointer = kPointerHourglass;
+void FillSource(FrmPicX& form) {
     form.Pic1.Height = form.PicImage.Height;
     form.Pic1.Width = form.PicImage.Width;
     form.Pic1.Picture = form.PicImage.Image();
     GetBitmapBits(form.Pic1.Image().Pixels(), form.FXSource);
 }
 
-void PutFXBits(FrmPicX& form) {
+void ShowDestination(FrmPicX& form) {
     SetBitmapBits(form.PicImage.Paint(), form.FXDest);
     form.Picture3.Picture = form.PicImage.Image();
     form.PicImage.Refresh();
@@ -22,6 +22,17 @@ void PutFXBits(FrmPicX& form) {
     form.Refresh();
     form.cmdSetMain.Click();
     form.MousePointer = kPointerDefault;
+}
+
+} // namespace
+
+void GetFXBits(FrmPicX& form) {
+    form.MousePointer = kPointerHourglass;
+    ResumeNext([&] { FillSource(form); });
+}
+
+void PutFXBits(FrmPicX& form) {
+    ResumeNext([&] { ShowDestination(form); });
 }
 
 } // namespace mirelle

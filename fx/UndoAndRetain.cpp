@@ -43,7 +43,8 @@ void UndoAndRetain::ResetSliders() {
 }
 
 // The source array is filled before the picture is read again, and goes back after it: from a file, whose
-// click sizes the arrays anew, those are zeros.
+// click sizes the arrays anew, those are zeros. Where the first filling fails for want of sized arrays, the
+// rest still runs.
 void UndoAndRetain::Revert() {
     GetFXBits(form_);
     ResetSliders();

@@ -30,6 +30,7 @@ TEST_F(PointEffectsTest, EachButtonChangesTheCanvasAndRetainsTheResult) {
         for (const Picture& shown : {form.Picture1.Picture(), form.Picture3.Picture(), form.Picture()}) {
             EXPECT_EQ(shown.Pixels(), expected) << row.button.Name();
         }
+        EXPECT_EQ(form.Pic1.Picture().Pixels(), Flat(10, 20, 30).Pixels()) << row.button.Name(); // the former
         EXPECT_EQ(form.MousePointer, kPointerDefault) << row.button.Name();
     }
 }
@@ -90,25 +91,92 @@ TEST_F(PointEffectsTest, BeforeAnyPictureTheyLeaveTheHourglassAndNothingElse) {
     form.cmdNegativeX.UserClick();
     EXPECT_EQ(form.MousePointer, kPointerHourglass);
     EXPECT_TRUE(form.PicImage.Picture().IsEmpty());
+    EXPECT_TRUE(form.Picture1.Picture().IsEmpty());
+    EXPECT_TRUE(form.Picture3.Picture().IsEmpty());
+    EXPECT_EQ(form.Pic1.Picture().Width(), 4); // the source was taken before the arrays failed
     EXPECT_TRUE(program.desktop.dialogs.messages.empty());
 }
 
-TEST_F(PointEffectsTest, APictureOpenedSinceIsTakenThroughArraysOfTheOldSize) {
-    Paste(Flat(10, 20, 30)); // 6 x 5
-    const Picture larger = ChartPicture(6, 8, 40);
-    form.PicImage.Picture = larger;
+// An effect whose loop meets a bound ends there: the canvas stays, the hourglass too.
+TEST_F(PointEffectsTest, ADestinationSmallerThanTheSourceLeavesTheCanvas) {
+    const Picture chart = ChartPicture(6, 5, 50);
+    Paste(chart);
+    form.FXDest.SizeFor(6, 4);
     form.cmdNegativeX.UserClick();
-    EXPECT_EQ(Canvas().Height(), 8);
-    EXPECT_EQ(Canvas().At(3, 4), (Pixel{252, 251, 215, 0})); // within the arrays
-    EXPECT_EQ(Canvas().At(3, 5), larger.Pixels().At(3, 5));  // beyond them
+    EXPECT_TRUE(form.PicImage.Picture().SharesPixelsWith(chart));
+    EXPECT_EQ(form.MousePointer, kPointerHourglass);
+    form.cmdSetMain.UserClick();
+    EXPECT_EQ(form.MousePointer, kPointerDefault);
 }
 
-TEST_F(PointEffectsTest, ASmallerPictureTakesTheBytesThatFit) {
-    Paste(Flat(10, 20, 30)); // 6 x 5
-    form.PicImage.Picture = ChartPicture(6, 2, 40);
+TEST_F(PointEffectsTest, ADestinationLargerThanTheSourceIsWrittenFromItsCornerOn) {
+    Paste(ChartPicture(6, 5, 50));
+    form.FXDest.SizeFor(6, 9);
     form.cmdNegativeX.UserClick();
-    EXPECT_EQ(Canvas().Height(), 2);
-    EXPECT_EQ(Canvas().At(3, 1), (Pixel{252, 254, 215, 0}));
+    EXPECT_EQ(Canvas().At(3, 4), (Pixel{252, 251, 205, 0}));
+    EXPECT_EQ(form.MousePointer, kPointerDefault);
+}
+
+// A picture that is opened to the canvas leaves the arrays in the size of the one before it.
+class OpenedSinceTest : public FxProgramTest {
+protected:
+    void Open(const Picture& picture) {
+        program.loader.pictures["C:\\opened.jpg"] = picture;
+        program.desktop.dialogs.openAnswers.emplace_back("C:\\opened.jpg");
+        form.Check4.Value = kChecked;
+        form.Command23.UserClick();
+        ASSERT_TRUE(form.PicImage.Picture().SharesPixelsWith(picture));
+        ASSERT_EQ(form.FXSource.bytes.Width(), 6);
+        ASSERT_EQ(form.FXSource.bytes.Height(), 5);
+    }
+    // The bits run through the arrays one after the other, whatever the rows of the picture are.
+    static Pixel Flatly(const Picture& picture, int place) {
+        const Bitmap& bitmap = picture.Pixels();
+        return bitmap.At(place % bitmap.Width(), place / bitmap.Width());
+    }
+    static constexpr int kArray = 6 * 5;
+    Picture first = ChartPicture(6, 5, 200);
+};
+
+TEST_F(OpenedSinceTest, ALargerPictureChangesAsFarAsTheArraysReach) {
+    Paste(first);
+    const Picture larger = ChartPicture(7, 9, 40);
+    Open(larger);
+    form.cmdFlipHoriz.UserClick();
+    ASSERT_EQ(Canvas().Width(), 7);
+    ASSERT_EQ(Canvas().Height(), 9);
+    for (int place = 0; place < 7 * 9; ++place) {
+        const int x = place % 6;
+        const Pixel expected = Flatly(larger, place < kArray ? place - x + 5 - x : place);
+        EXPECT_EQ(Flatly(form.PicImage.Picture, place), expected) << place;
+    }
+    EXPECT_EQ(form.Picture1.Picture().Pixels(), Canvas());
+}
+
+TEST_F(OpenedSinceTest, ASmallerPictureMeetsWhatTheArraysHeldBefore) {
+    Paste(first);
+    form.cmdNegativeX.UserClick(); // fills the source with the first picture
+    const Picture smaller = ChartPicture(4, 3, 40);
+    Open(smaller);
+    form.cmdFlipVert.UserClick();
+    ASSERT_EQ(Canvas().Width(), 4);
+    ASSERT_EQ(Canvas().Height(), 3);
+    for (int place = 0; place < 4 * 3; ++place) {
+        const int source = (4 - place / 6) * 6 + place % 6;
+        const Pixel expected = Flatly(source < 12 ? smaller : first, source);
+        EXPECT_EQ(Flatly(form.PicImage.Picture, place), expected) << place;
+    }
+}
+
+TEST_F(OpenedSinceTest, RevertPutsTheOpenedBytesOverThePictureOfTheClipboard) {
+    Paste(first);
+    const Picture larger = ChartPicture(7, 9, 40);
+    Open(larger);
+    form.cmdCopy.UserClick();
+    ASSERT_EQ(Canvas().Width(), 6);
+    ASSERT_EQ(Canvas().Height(), 5);
+    for (int place = 0; place < kArray; ++place)
+        EXPECT_EQ(Flatly(form.PicImage.Picture, place), Flatly(larger, place)) << place;
 }
 
 } // namespace

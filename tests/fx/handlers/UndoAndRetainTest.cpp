@@ -93,12 +93,64 @@ TEST_F(UndoAndRetainTest, RevertOnAPictureFromAFilePutsZerosOverIt) {
     EXPECT_EQ(form.MousePointer, kPointerDefault);
 }
 
-TEST_F(UndoAndRetainTest, RevertBeforeAnyPictureLeavesTheHourglass) {
+// The arrays are sized by the file's click, though no file is selected.
+TEST_F(UndoAndRetainTest, RevertBeforeAnyPicturePutsZerosOverTheEmptyCanvas) {
     form.PicImage.Width = 4;
-    form.PicImage.Height = 4;
+    form.PicImage.Height = 3;
     form.cmdCopy.UserClick();
+    EXPECT_EQ(Canvas(), Bitmap(4, 3));
+    EXPECT_EQ(form.Picture1.Picture().Pixels(), Bitmap(4, 3));
+    EXPECT_EQ(form.MousePointer, kPointerDefault);
+}
+
+TEST_F(UndoAndRetainTest, RevertReadsTheClipboardAlsoWhileTheArraysAreUnsized) {
+    form.ClipboardIsSource = true;
+    program.desktop.clipboard.bitmap = picture;
+    form.cmdCopy.UserClick();
+    EXPECT_TRUE(Shows(form.PicImage, picture));
+    EXPECT_TRUE(Shows(form.Pic1, picture));
+    EXPECT_TRUE(Shows(form.Picture3, picture));
+    EXPECT_TRUE(form.Picture().SharesPixelsWith(picture));
+    EXPECT_TRUE(form.Picture1.Picture().IsEmpty());  // nothing was put back, so nothing retained
+    EXPECT_EQ(form.MousePointer, kPointerHourglass); // which putting back would have cleared
+}
+
+TEST_F(UndoAndRetainTest, RevertReadsTheClipboardForEachHolderAndPutsTheFormerPixelsOverIt) {
+    Paste(picture); // 6 x 5
+    form.cmdNegative.UserClick();
+    const Bitmap negative = Canvas();
+    const Picture grab = ChartPicture(6, 8, 70);
+    program.desktop.clipboard.bitmap = grab;
+    const int reads = program.desktop.clipboard.reads;
+    form.cmdCopy.UserClick();
+    EXPECT_EQ(program.desktop.clipboard.reads - reads, 4);
+    ASSERT_EQ(Canvas().Height(), 8);
+    EXPECT_EQ(Cut(Canvas(), 0, 0, 6, 5), negative);
+    EXPECT_EQ(Cut(Canvas(), 0, 5, 6, 3), Cut(grab.Pixels(), 0, 5, 6, 3));
+    EXPECT_TRUE(Shows(form.Pic1, grab)); // the picture as it was assigned, without the pixels put back
+    EXPECT_EQ(form.Picture().Pixels(), Canvas());
+    EXPECT_EQ(form.MousePointer, kPointerDefault);
+}
+
+TEST_F(UndoAndRetainTest, RevertResetsTheSlidersWhoseChangesShiftThePictureFurther) {
+    Paste(Flat(100, 100, 100));
+    form.HSColorShift(0).UserSet(5);  // blue 105
+    form.HSColorShift(2).UserSet(10); // blue 110, red 110
+    form.cmdCopy.UserClick();
+    for (int channel = 0; channel < 3; ++channel)
+        EXPECT_EQ(form.HSColorShift(channel).Value, 0) << channel;
+    // The blue slider's change adds the red 10 and reads the canvas anew: that is what goes back.
+    EXPECT_EQ(Canvas(), Bitmap(6, 5, Pixel{110, 100, 120, 0}));
+}
+
+// A bound that the loop meets ends it ahead of putting back.
+TEST_F(UndoAndRetainTest, RevertLeavesWhereTheArraysDoNotFitEachOther) {
+    Paste(picture);
+    form.FXDest.SizeFor(6, 4);
+    form.cmdNegative.UserClick();
+    form.cmdCopy.UserClick();
+    EXPECT_TRUE(Shows(form.PicImage, picture)); // from the clipboard
     EXPECT_EQ(form.MousePointer, kPointerHourglass);
-    EXPECT_TRUE(form.PicImage.Picture().IsEmpty());
 }
 
 TEST_F(UndoAndRetainTest, HoveringLightsTheFrameOfTheRetainingControls) {
@@ -137,7 +189,24 @@ TEST_F(UndoAndRetainTest, TheThreePicturesFollowTheTableOfStates) {
     expect("point", inverted, inverted, inverted);
     form.ckApplyRGB.Value = kChecked;
     form.cmdNoBlue.UserClick();
-    expect("kernel retained", form.PicImage.Picture, form.PicImage.Picture, inverted);
+    const Picture result = form.PicImage.Picture;
+    expect("kernel retained", result, result, inverted);
+    form.cmdCont33.UserClick();
+    expect("contrast", form.PicImage.Picture, result, inverted);
+    EXPECT_NE(Canvas(), result.Pixels());
+
+    const Picture fromFile = ChartPicture(9, 4, 80);
+    program.files.AddFile("C:\\Mat\\a.jpg");
+    program.loader.pictures["C:\\Mat\\a.jpg"] = fromFile;
+    form.File5.SetPath("C:\\Mat");
+    form.File5.Selected(0) = true;
+    expect("file selection", fromFile, fromFile, inverted);
+    form.ckUseFormCanvas.Value = kChecked;
+    form.UserWindow(kWindowNormal, {12, 8});
+    form.File5.Selected(0) = true;
+    EXPECT_EQ(form.Picture1.Picture().Pixels(), fromFile.Pixels());
+    EXPECT_EQ(form.PicImage.Picture().Pixels(), form.Picture3.Picture().Pixels());
+    EXPECT_EQ(form.PicImage.Picture().Width(), 12);
 }
 
 } // namespace
