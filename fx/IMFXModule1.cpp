@@ -11,7 +11,7 @@ std::int32_t IMFXModule1::Run(Kernel kernel, const Picture& source, Picture& des
                               const KernelArguments& arguments) {
     FXBusy = true;
     BeginFX(source);
-    if (!DstPix.IsEmpty()) {
+    if (!SrcPix.Pixels().IsEmpty() && !DstPix.IsEmpty()) {
         const KernelFrame frame{SrcPix.Pixels().Pixels(), DstPix.Pixels(), FXWidth, FXHeight};
         (kernels_.*kernel)(frame, arguments);
     }
@@ -26,8 +26,8 @@ void IMFXModule1::BeginFX(const Picture& source) {
     if (!SrcPix.Pixels().IsEmpty()) {
         FXWidth = SrcPix.Width();
         FXHeight = SrcPix.Height();
-        ResumeNext([&] { DstPix = Bitmap(FXWidth, FXHeight); });
     }
+    ResumeNext([&] { DstPix = Bitmap(FXWidth, FXHeight); });
     ResumeNext([&] { FXStartMs = GetTimeMs(); });
 }
 

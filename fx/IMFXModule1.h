@@ -5,8 +5,9 @@
 // write in it and hands it over. So what a kernel does not write is black, and the fourth byte of every
 // result is 0. The source is never changed: two kernels on one source do not add up.
 //
-// Everything here runs under the resume-next rule and raises nothing. On an empty source no kernel can read
-// or store anything: FXWidth and FXHeight keep their values and the destination stays as it is.
+// Everything here runs under the resume-next rule and raises nothing. On an empty source FXWidth and FXHeight
+// keep the values of the run before and the destination is made by them, but no kernel can read or store
+// anything: it stays black. Where there was no run before, there is no destination to paint either.
 #pragma once
 
 #include "forms/Picture.h"
@@ -31,7 +32,8 @@ public:
     std::int32_t FXEndMs = 0;
     bool FXBusy = false; // from the start of a kernel to its end
 
-    // Runs one kernel. `destination` becomes the painted picture; the result is the elapsed milliseconds.
+    // Runs one kernel. `destination` becomes the painted picture, FXWidth x FXHeight, or keeps what it holds
+    // where that is nothing; the result is the elapsed milliseconds.
     std::int32_t Run(Kernel kernel, const Picture& source, Picture& destination,
                      const KernelArguments& arguments = {});
 

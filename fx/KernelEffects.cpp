@@ -33,10 +33,9 @@ void KernelEffects::PaintKernel(const KernelButton& button) {
     Picture result;
     ResumeNext([&] { module_.Run(button.kernel, form_.Picture1.Picture, result, button.arguments); });
     form_.picTemp.Picture = Picture();
-    if (result.IsEmpty()) return;
     form_.picTemp.Width = static_cast<float>(module_.FXWidth) * kTwipsPerPixel;
     form_.picTemp.Height = static_cast<float>(module_.FXHeight) * kTwipsPerPixel;
-    form_.picTemp.ShowImage(result);
+    if (!result.IsEmpty()) form_.picTemp.ShowImage(result);
 }
 
 template <class Blur>

@@ -95,21 +95,31 @@ TEST(IMFXModule1Test, BeginMakesADestinationOfZeros) {
     EXPECT_EQ(destination.Pixels(), Bitmap(6, 3));
 }
 
-TEST(IMFXModule1Test, AnEmptySourceLeavesTheDestinationAndTheSizes) {
+TEST(IMFXModule1Test, AnEmptySourceAtFirstLeavesTheDestination) {
     ReadingsClock clock({0});
     IMFXModule1 module(clock);
-    Picture destination;
-    module.Run(&KernelSet::FXFlatten2, Picture(), destination);
-    EXPECT_TRUE(destination.IsEmpty());
-    EXPECT_EQ(module.FXWidth, 0);
-
-    module.Run(&KernelSet::FXNegate, Picture{Bitmap(5, 2)}, destination);
+    Picture destination{Bitmap(2, 2, Grey(7))};
     const Picture before = destination;
     module.Run(&KernelSet::FXFlatten2, Picture(), destination);
     EXPECT_TRUE(destination.SharesPixelsWith(before));
-    EXPECT_EQ(module.FXWidth, 5);
-    EXPECT_EQ(module.FXHeight, 2);
+    EXPECT_EQ(module.FXWidth, 0);
+    EXPECT_EQ(module.FXHeight, 0);
     EXPECT_FALSE(module.FXBusy);
+}
+
+TEST(IMFXModule1Test, AnEmptySourceLaterIsBlackInTheSizesOfTheRunBefore) {
+    ReadingsClock clock({0});
+    IMFXModule1 module(clock);
+    const Picture source{Bitmap(5, 2, Grey(9))};
+    for (const KernelButton& button : kKernelButtons) {
+        Picture destination;
+        module.Run(button.kernel, source, destination, button.arguments);
+        module.Run(button.kernel, Picture(), destination, button.arguments);
+        EXPECT_EQ(destination.Pixels(), Bitmap(5, 2)) << button.control;
+        EXPECT_EQ(module.FXWidth, 5) << button.control;
+        EXPECT_EQ(module.FXHeight, 2) << button.control;
+        EXPECT_FALSE(module.FXBusy) << button.control;
+    }
 }
 
 } // namespace

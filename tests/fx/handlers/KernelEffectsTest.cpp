@@ -77,12 +77,27 @@ TEST_F(KernelEffectsTest, TheFourthByteOfAResultIs0) {
     EXPECT_EQ(Canvas().At(1, 1), (Pixel{254, 253, 252, 0}));
 }
 
-TEST_F(KernelEffectsTest, WithoutARetainedPictureTheOutputStaysBlank) {
-    form.Picture1.Picture = Picture();
+TEST_F(KernelEffectsTest, WithoutARetainedPictureTheOutputIsBlackInTheSizeOfTheLastRun) {
     form.cmdBlur1.UserClick();
+    form.Picture1.Picture = Picture();
+    form.picTemp.Width = 15;
+    form.cmdNegative.UserClick();
     EXPECT_TRUE(form.picTemp.Picture().IsEmpty());
-    EXPECT_EQ(Canvas().At(0, 0), PixelOf(form.picTemp.BackColor));
+    EXPECT_EQ(form.picTemp.Width, 23 * 15);
+    EXPECT_EQ(form.picTemp.Height, 17 * 15);
+    EXPECT_EQ(Canvas(), Bitmap(23, 17));
     EXPECT_EQ(form.MousePointer, kPointerDefault);
+}
+
+TEST_F(KernelEffectsTest, WithoutARetainedPictureAndARunBeforeThereIsNoOutput) {
+    TestProgram fresh;
+    fresh.form.PicImage.Picture = picture;
+    fresh.form.cmdNegative.UserClick();
+    EXPECT_EQ(fresh.form.picTemp.Width, 0);
+    EXPECT_EQ(fresh.form.picTemp.Height, 0);
+    EXPECT_TRUE(fresh.form.PicImage.Picture().Pixels().IsEmpty());
+    EXPECT_TRUE(fresh.form.Picture3.Picture().SharesPixelsWith(picture));
+    EXPECT_EQ(fresh.form.MousePointer, kPointerDefault);
 }
 
 TEST_F(KernelEffectsTest, TheSmudgersRun151PassesAndRetainEach) {
