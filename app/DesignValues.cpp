@@ -112,9 +112,11 @@ void SetSizes(FrmPicX& form) {
         box->Move(0, 0, 68, 68);
     for (PictureBox* box :
          {&form.pic1grad, &form.pic2grad, &form.picDest, &form.Picture5, &form.PicSwap1, &form.PicSwap2}) {
-        // As large as most pictures, so that the end slider still stands at the far edge when one comes.
         box->Move(0, 0, 1020 * kTwipsPerPixel, 1020 * kTwipsPerPixel);
     }
+    // Wider than any picture that is likely to come, so that the end slider, which starts at this width,
+    // still stands at the far edge when the picture does.
+    form.picDest.Move(0, 0, 4096 * kTwipsPerPixel, 256 * kTwipsPerPixel);
     form.Picture2.Move(0, 0, 245, 200);
     form.Frame4.Move(338, -1, 270, 441);
     form.Frame5.Move(-36, 440, 780, 62);

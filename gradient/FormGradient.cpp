@@ -52,7 +52,7 @@ void PaintFormGradient(Bitmap& surface, const GradientColors& colors, bool acros
 
 FormGradient::FormGradient(FrmPicX& form) : form_(form) {
     for (ScrollBar* slider : {&form_.RS, &form_.GS, &form_.BS, &form_.RF, &form_.GF, &form_.BF}) {
-        for (Event<>* event : {&slider->Click, &slider->Change, &slider->Scroll}) {
+        for (Event<>* event : {&slider->Click, &slider->Change}) {
             event->Connect([this] { ApplyFormGradient(); });
         }
     }

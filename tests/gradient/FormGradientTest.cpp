@@ -87,6 +87,47 @@ TEST_F(FormGradientTest, ASliderPaintsTheFormAndMakesItTheCanvas) {
     EXPECT_EQ(form.PicImage.Width, 40);
 }
 
+TEST_F(FormGradientTest, EachSliderPaintsOnItsChangeAndItsClickAlone) {
+    const struct {
+        ScrollBar& slider;
+        std::int16_t& field;
+    } rows[] = {{form.RS, form.RStart},  {form.GS, form.GStart},  {form.BS, form.BStart},
+                {form.RF, form.RFinish}, {form.GF, form.GFinish}, {form.BF, form.BFinish}};
+    const Picture blank;
+    for (const auto& row : rows) {
+        form.PicImage.Picture = blank;
+        row.slider.UserDrag(800);
+        EXPECT_TRUE(form.PicImage.Picture().IsEmpty()) << row.slider.Name();
+        row.slider.UserDrop();
+        EXPECT_EQ(row.field, 56) << row.slider.Name();
+        EXPECT_EQ(form.PicImage.Picture().Pixels(), form.Image().Pixels()) << row.slider.Name();
+        row.field = 0;
+        form.PicImage.Picture = blank;
+        row.slider.Click();
+        EXPECT_EQ(row.field, 56) << row.slider.Name();
+        EXPECT_EQ(form.PicImage.Picture().Pixels(), form.Image().Pixels()) << row.slider.Name();
+    }
+    const GradientColors colors{56, 56, 56, 56, 56, 56};
+    EXPECT_EQ(form.Image().Pixels().At(7, 20), Expected(431, colors));
+}
+
+TEST_F(FormGradientTest, TheFinishComesFromTheLowerSliders) {
+    form.RF.UserSet(4);
+    form.GF.UserSet(400);
+    form.BF.UserSet(800);
+    const GradientColors colors{145, 6, 117, 255, 156, 56};
+    for (int y = 0; y < 30; ++y)
+        EXPECT_EQ(form.Image().Pixels().At(3, y), Expected(y + 411, colors)) << y;
+}
+
+TEST_F(FormGradientTest, WhatWasPaintedOnTheFormBeforeGoes) {
+    form.UserWindow(kWindowNormal, {5, 1100});
+    form.BackColor = 0x123456;
+    form.Paint().At(2, 1090) = {9, 9, 9, 9}; // below the last row of the gradient
+    form.RS.UserSet(40);
+    EXPECT_EQ(form.Image().Pixels().At(2, 1090), PixelOf(0x123456));
+}
+
 TEST_F(FormGradientTest, HalvesRoundToTheEvenComponent) {
     form.RS.UserSet(446); // 256 - 111.5 = 144.5
     EXPECT_EQ(form.RStart, 144);

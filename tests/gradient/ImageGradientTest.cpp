@@ -79,6 +79,9 @@ TEST_F(ImageGradientTest, TheSlidersRedrawFromTheStoredPictures) {
     EXPECT_EQ(form.PicImage.Picture().Pixels(), Faded(canvas, fade, 30, 150, kVertical));
     form.hStart.UserDrag(60);
     EXPECT_EQ(form.PicImage.Picture().Pixels(), Faded(canvas, fade, 60, 150, kVertical));
+    form.hEnd.UserDrag(120);
+    EXPECT_EQ(form.PicImage.Picture().Pixels(), Faded(canvas, fade, 60, 120, kVertical));
+    form.hEnd.UserDrag(150);
     form.hStart.UserDrag(180); // crossed: the solid rest alone
     EXPECT_EQ(form.PicImage.Picture().Pixels(), Faded(canvas, fade, 180, 150, kVertical));
     form.hStart.UserDrop();
@@ -108,6 +111,34 @@ TEST_F(ImageGradientTest, WithoutStretchTheSmallerPictureKeepsItsSize) {
     const Bitmap& result = form.PicImage.Picture().Pixels();
     EXPECT_EQ(result.At(10, 10), small.Pixels().At(10, 10));
     EXPECT_EQ(result.At(100, 100), PixelOf(form.pic2grad.BackColor));
+}
+
+TEST_F(ImageGradientTest, WithoutStretchALargerPictureIsCutAtItsBox) {
+    const Picture large = ChartPicture(500, 400, 90);
+    form.chkStretch.Value = kUnchecked;
+    Show(canvas, large);
+    form.cmdGradV(1).UserClick();
+    form.hStart.UserSet(20);
+    form.hEnd.UserSet(120);
+    EXPECT_TRUE(form.pic2grad.Picture().SharesPixelsWith(large));
+    const Picture shown(Cut(large.Pixels(), 0, 0, 300, 200));
+    EXPECT_EQ(form.PicImage.Picture().Pixels(), Faded(canvas, shown, 20, 120, kVertical));
+}
+
+TEST_F(ImageGradientTest, TheEndSliderStandsAtTheFarEdgeOfAFirstPicture) {
+    for (const int index : {kHorizontal, kVertical}) {
+        TestProgram fresh;
+        FrmPicX& first = fresh.form;
+        for (PictureBox* box : {&first.pic1grad, &first.pic2grad, &first.picDest}) {
+            box->Width = 1100 * 15;
+            box->Height = 1060 * 15;
+        }
+        first.pic1grad.Picture = canvas;
+        first.cmdGradV(index).UserClick();
+        EXPECT_EQ(first.hEnd.Max, index == kHorizontal ? 1100 : 1060);
+        EXPECT_EQ(first.hEnd.Value, first.hEnd.Max());
+        EXPECT_EQ(first.hStart.Value, 0);
+    }
 }
 
 TEST_F(ImageGradientTest, AClickOnStretchRestoresThePicturesAndRedraws) {
