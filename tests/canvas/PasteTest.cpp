@@ -143,6 +143,22 @@ TEST_F(PasteTest, AVisibleGradientPanelTakesThePictureBeforeTheCanvasIsPainted) 
     EXPECT_TRUE(form.Picture().SharesPixelsWith(grab));
 }
 
+// The first run turns the direction to vertical, so that the run after it is always vertical too.
+TEST_F(PasteTest, AVisibleGradientPanelRunsTwiceDownwardsFromEitherDirection) {
+    form.FrameGradFX.Visible = true;
+    std::vector<int> directions;
+    form.cmdGradV.OnClick([&](int index) { directions.push_back(index); });
+    PutOnClipboard(grab);
+    for (const bool across : {false, true}) {
+        form.GradDirectionH = across;
+        form.GradDirectionV = !across;
+        directions.clear();
+        form.Command5.UserClick();
+        EXPECT_EQ(directions, (std::vector<int>{1, 1})) << across;
+        EXPECT_TRUE(form.StoredCanvasPicture.SharesPixelsWith(grab)) << across;
+    }
+}
+
 TEST_F(PasteTest, AClipboardThatLosesItsBitmapHalfwayLeavesTheRestAsItWas) {
     form.Pic1.Picture = former;
     PutOnClipboard(grab);

@@ -9,6 +9,12 @@ protected:
         program.desktop.dialogs.colorAnswers.push_back(color);
         form.cmdColorDialog(index).UserClick();
     }
+    void SizeGradientBoxes() {
+        for (PictureBox* box : {&form.pic1grad, &form.pic2grad, &form.picDest}) {
+            box->Width = 30 * 15;
+            box->Height = 20 * 15;
+        }
+    }
     void ExpectSurround(Color color) {
         EXPECT_EQ(form.FrameMatCanvas.BackColor, color);
         EXPECT_EQ(form.FrameMatCanvas2.BackColor, color);
@@ -69,6 +75,14 @@ TEST_F(ColorDialogsTest, WithTheFormAsCanvasItsNewColourIsTheCanvasPicture) {
     EXPECT_EQ(form.Picture3.Picture().Pixels(), Canvas());
 }
 
+TEST_F(ColorDialogsTest, WithoutTheFormAsCanvasItsNewColourLeavesThePictures) {
+    const Picture picture = ChartPicture(30, 20, 3);
+    Paste(picture);
+    Choose(1, 0x010203);
+    EXPECT_TRUE(form.PicImage.Picture().SharesPixelsWith(picture));
+    EXPECT_TRUE(form.Picture3.Picture().SharesPixelsWith(picture));
+}
+
 TEST_F(ColorDialogsTest, TheImageFxButtonOpensAndClosesItsPanelThroughRevert) {
     int reverts = 0;
     form.cmdCopy.Click.Connect([&] { ++reverts; });
@@ -88,10 +102,7 @@ TEST_F(ColorDialogsTest, TheImageFxButtonOpensAndClosesItsPanelThroughRevert) {
 TEST_F(ColorDialogsTest, TheGradientButtonOpensAndClosesItsPanel) {
     const Picture picture = ChartPicture(30, 20, 3);
     Paste(picture);
-    for (PictureBox* box : {&form.pic1grad, &form.pic2grad, &form.picDest}) {
-        box->Width = 30 * 15;
-        box->Height = 20 * 15;
-    }
+    SizeGradientBoxes();
     form.FrameRGBFX.Visible = true;
     std::vector<int> directions;
     form.cmdGradV.OnClick([&](int index) { directions.push_back(index); });
@@ -104,6 +115,24 @@ TEST_F(ColorDialogsTest, TheGradientButtonOpensAndClosesItsPanel) {
     form.cmdColorDialog(3).UserClick();
     EXPECT_FALSE(form.FrameGradFX.Visible);
     EXPECT_EQ(directions.size(), 2U);
+}
+
+TEST_F(ColorDialogsTest, FromNoPanelTheGradientKeepsItsCanvasImageAndGoesVertical) {
+    Paste(ChartPicture(30, 20, 3));
+    SizeGradientBoxes();
+    const Picture before = ChartPicture(30, 20, 7);
+    form.pic1grad.Picture = before;
+    form.GradDirectionH = true;
+    form.GradDirectionV = false;
+    std::vector<int> directions;
+    form.cmdGradV.OnClick([&](int index) { directions.push_back(index); });
+    form.cmdColorDialog(3).UserClick();
+    EXPECT_TRUE(form.FrameGradFX.Visible);
+    EXPECT_TRUE(form.StoredCanvasPicture.SharesPixelsWith(before));
+    // The first run turns the direction to vertical, so that the runs after it find that.
+    EXPECT_EQ(directions, (std::vector<int>{1, 1}));
+    EXPECT_TRUE(form.GradDirectionV);
+    EXPECT_FALSE(form.GradDirectionH);
 }
 
 TEST_F(ColorDialogsTest, TheGradientColourFillsTheGradientImage) {
