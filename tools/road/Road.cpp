@@ -1,0 +1,159 @@
+#include "tools/road/Road.h"
+
+#include "tools/road/Await.h"
+
+#include <QImage>
+#include <QString>
+
+#include <algorithm>
+#include <filesystem>
+#include <stdexcept>
+
+namespace mirelle::road {
+namespace {
+
+// Lists, by how their names begin: the rest tells what they do at the moment.
+constexpr const char* kFiles = "Click to preview image file";
+constexpr const char* kSuperBatch = "SuperBatch List: Double-click item to remove it from list";
+constexpr const char* kChart = "Click image to sample color to SketchUp Send palette to right";
+constexpr const char* kSlot = "Enter or sample RGB Color value to send to SketchUp";
+constexpr const char* kNames = "Materials Images";
+
+// Something of each: far enough apart that no panel covers all of them.
+constexpr Place kProbes[] = {{40, 40, 1, 1}, {260, 200, 1, 1}, {400, 90, 1, 1}};
+
+} // namespace
+
+Road::Road(const std::string& program, std::string home)
+    : home_(std::move(home)), widgets_("Mirelle"), program_(program, {"--home", home_}) {
+    EnterFolder("Art");
+}
+
+std::string Road::PathOf(const LibraryFile& file) const {
+    return home_ + "/Support/Materials/" + file.folder + "/" + file.file;
+}
+
+std::string Road::Name() const {
+    // The panel's first field is the one in the list of names.
+    const Widget panel = widgets_.Await("filler", kNames);
+    for (const Widget& list : widgets_.In(panel)) {
+        if (list.role != "combo box") continue;
+        for (const Widget& part : widgets_.In(list))
+            if (part.role == "text") return widgets_.TextOf(part);
+    }
+    throw std::runtime_error("the name has no field");
+}
+
+void Road::Press(const std::string& button) {
+    desk_.Click(widgets_.Await("push button", button).place);
+}
+
+void Road::Check(const std::string& box) {
+    const Widget found = widgets_.Await("check box", box);
+    desk_.Click({found.place.x, found.place.y, found.place.height, found.place.height});
+    Await("the check in " + box, [&] { return widgets_.IsChecked(found); });
+}
+
+void Road::EnterFolder(const std::string& folder) {
+    Press("Go to " + folder + " Materials");
+    Row(kFiles, folder + "_1.jpg");
+}
+
+void Road::Paste(const std::string& pictureFile) {
+    PutOnClipboard(pictureFile);
+    Press("Paste from clipboard");
+    const QImage picture(QString::fromStdString(pictureFile));
+    const Place canvas = widgets_.Await("filler", "Sampling Canvas").place;
+    Await("the pasted picture", [&] {
+        return std::ranges::all_of(kProbes, [&](const Place& probe) {
+            return desk_.ColourAt(canvas.x + probe.x, canvas.y + probe.y) ==
+                   (picture.pixel(probe.x, probe.y) & 0xFFFFFF);
+        });
+    });
+}
+
+std::string Road::Drag(const Place& area) {
+    const std::string before = Name();
+    const Place canvas = widgets_.Await("filler", "Sampling Canvas").place;
+    const int left = canvas.x + area.x;
+    const int top = canvas.y + area.y;
+    desk_.MovePointer(left, top);
+    desk_.PressButton();
+    constexpr int kMoves = 8;
+    for (int move = 1; move <= kMoves; ++move)
+        desk_.MovePointer(left + area.width * move / kMoves, top + area.height * move / kMoves);
+    desk_.ReleaseButton();
+    Await("the sample's name", [&] { return Name() != before; });
+    return Name();
+}
+
+void Road::FastSave(const LibraryFile& saved) {
+    Press("Fast Save: Save material sample to current path");
+    Row(kFiles, saved.file);
+    Await(PathOf(saved), [&] { return std::filesystem::exists(PathOf(saved)); });
+}
+
+void Road::Select(const LibraryFile& file) {
+    desk_.Click(Row(kFiles, file.file).place);
+    widgets_.Await("filler", PathOf(file)); // beneath the lists
+}
+
+void Road::LineUp(const LibraryFile& file) {
+    EnterFolder(file.folder);
+    desk_.Click(Row(kFiles, file.file).place);
+    Row(kSuperBatch, PathOf(file));
+}
+
+std::string Road::SampleColour() {
+    Press("Show Pixel Sampler frame");
+    desk_.Click(widgets_.Await("filler", kChart).place);
+    const Widget slot = widgets_.Await("text", kSlot);
+    Await("the sampled colour", [&] { return !widgets_.TextOf(slot).empty(); });
+    return widgets_.TextOf(slot);
+}
+
+void Road::SendMaterial() {
+    Press("Send selected material to SketchUp; Sends SU supported images");
+}
+
+void Road::SendFolder() {
+    Press("BatchSend: Send all images in directory to SketchUp; Sends SU supported images");
+}
+
+void Road::SendList() {
+    Press("SuperBatchSend: Send all images in Super Batch List to SketchUp; Sends SU supported images");
+}
+
+void Road::SendColour() {
+    Press("Click to Add SketchUp Color via Ruby Console");
+}
+
+void Road::ToggleSuperBatch() {
+    const auto shown = [&] { return widgets_.Find("filler", "SuperBatch Send").has_value(); };
+    const bool before = shown();
+    Press("Show/Hide SuperBatch Image Send Frame");
+    Await("the SuperBatch panel's change", [&] { return shown() != before; });
+}
+
+void Road::AwaitMessage(const std::string& text) {
+    widgets_.Await("label", text);
+    Press("OK");
+    Await("the end of the message", [&] { return !widgets_.Find("label", text); });
+}
+
+Widget Road::Row(const std::string& list, const std::string& row) const {
+    std::optional<Widget> found;
+    Await(row + " in the list", [&] {
+        found.reset();
+        const std::optional<Widget> rows = widgets_.Find(
+            [&](const Widget& widget) { return widget.role == "list" && widget.name.starts_with(list); });
+        if (!rows) return false;
+        for (const Widget& widget : widgets_.In(*rows))
+            if (widget.name == row && rows->place.Holds(widget.place.MiddleX(), widget.place.MiddleY()))
+                found = widget;
+        return found.has_value();
+    });
+    return *found;
+}
+
+} // namespace mirelle::road
