@@ -95,13 +95,29 @@ void DirListBox::Refresh() {
     rows_.clear();
     current_ = kNoRow;
     TellWatchers();
-    std::vector<std::string> names = files_.FolderNames(path_);
-    SortNames(names);
+    rows_ = FoldersInside();
+    TellWatchers();
+}
+
+void DirListBox::FollowDisk() {
+    std::vector<std::string> rows;
+    ResumeNext([&] { rows = FoldersInside(); });
+    if (rows == rows_) return;
+    const std::string current = List(current_);
+    rows_ = std::move(rows);
+    const auto found = std::ranges::find(rows_, current);
+    current_ = found == rows_.end() ? kNoRow : static_cast<int>(found - rows_.begin());
+    TellWatchers();
+}
+
+std::vector<std::string> DirListBox::FoldersInside() const {
+    std::vector<std::string> folders = files_.FolderNames(path_);
+    SortNames(folders);
     const bool atRoot = !path_.empty() && path_.back() == files_.Separator();
     const std::string base = atRoot ? path_ : path_ + files_.Separator();
-    for (const std::string& name : names)
-        rows_.push_back(base + name);
-    TellWatchers();
+    for (std::string& folder : folders)
+        folder.insert(0, base);
+    return folders;
 }
 
 FileListBox::FileListBox(Form& form, std::string name, FileSystem& files)

@@ -33,9 +33,14 @@ public:
     // exist.
     void SetPath(const std::string& path);
     void Refresh() override;
+    // Lists the folders in it anew where they are others than listed; the current row stays with its folder.
+    // A folder that has gone lists none.
+    void FollowDisk();
     Event<> Change;
 
 private:
+    std::vector<std::string> FoldersInside() const;
+
     FileSystem& files_;
     std::string path_;
 };

@@ -123,8 +123,11 @@ void Binder::Drives(DriveListBox& control, QComboBox& widget) {
     };
     Common(control, widget, show, nullptr);
     Mouse(control, widget, ControlEvents::Take::Mouse);
-    QObject::connect(&widget, &QComboBox::activated, &widget, [this, &control, &widget](int row) {
-        Run([&] { control.Drive = widget.itemText(row).toStdString(); });
+    // The entry itself, not what the widget makes of it: a mounted folder may bear any name.
+    QObject::connect(&widget, &QComboBox::activated, &widget, [this, &control](int row) {
+        const std::vector<std::string> drives = control.Rows();
+        const auto at = static_cast<std::size_t>(row);
+        if (at < drives.size()) Run([&] { control.Drive = drives[at]; });
     });
 }
 

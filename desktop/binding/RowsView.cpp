@@ -1,7 +1,12 @@
 #include "desktop/binding/RowsView.h"
 
+#include "desktop/look/Tokens.h"
+#include "desktop/look/ToolTips.h"
+
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QToolTip>
 
 #include <utility>
 
@@ -25,6 +30,27 @@ void RowsView::ShowRow(int row) {
     }
     setCurrentIndex(index);
     if (!index.isValid()) clearSelection();
+}
+
+QString RowsView::TipAt(const QPoint& place) const {
+    const QModelIndex index = indexAt(place);
+    if (!index.isValid() || index.data(Qt::ToolTipRole).isValid()) return {};
+    if (sizeHintForIndex(index).width() <= visualRect(index).width()) return {};
+    const QString text = index.data().toString();
+    return toolTip().isEmpty() ? text : text + u'\n' + toolTip();
+}
+
+bool RowsView::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const QString tip = TipAt(help->pos());
+        if (!tip.isEmpty()) {
+            QToolTip::showText(help->globalPos(),
+                               look::BrokenIntoLines(tip, QToolTip::font(), look::kTipWidth), viewport());
+            return true;
+        }
+    }
+    return QListView::viewportEvent(event);
 }
 
 void RowsView::mousePressEvent(QMouseEvent* event) {

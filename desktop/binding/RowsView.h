@@ -15,12 +15,16 @@ public:
 
     // Shows a row as the current one; -1 for none.
     void ShowRow(int row);
+    // What the tip says at a place of the viewport: the whole text of a row that is cut, ahead of the list's
+    // own tip. Nothing where no row is cut: then the list's own tip shows.
+    QString TipAt(const QPoint& place) const;
 
 signals:
     void Chosen(int row);
     void DoubleClicked(int row); // or Return on the row
 
 protected:
+    bool viewportEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;

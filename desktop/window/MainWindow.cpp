@@ -42,7 +42,8 @@ QSize StartSize(const QWidget& window) {
 } // namespace
 
 MainWindow::MainWindow(FrmPicX& form)
-    : form_(form), binder_(form), activations_(*this), canvas_(new SamplingCanvas(form, this)) {
+    : form_(form), binder_(form), activations_(*this), folders_(form),
+      canvas_(new SamplingCanvas(form, this)) {
     setObjectName("FrmPicX");
     for (Shape* shape : {&form.Shape1, &form.Shape2, &form.Shape3})
         binder_.ShownElsewhere(*shape);
@@ -60,6 +61,7 @@ MainWindow::MainWindow(FrmPicX& form)
     });
     connect(&activations_, &Activations::Activated, this,
             [this] { binder_.Run([this] { form_.Activate(); }); });
+    connect(&activations_, &Activations::Activated, &folders_, &FolderWatch::Look);
 }
 
 MainWindow::~MainWindow() {

@@ -4,6 +4,7 @@
 
 #include "desktop/binding/Binder.h"
 #include "desktop/window/Activations.h"
+#include "desktop/window/FolderWatch.h"
 
 #include <QWidget>
 
@@ -52,6 +53,7 @@ private:
     FrmPicX& form_;
     Binder binder_;
     Activations activations_;
+    FolderWatch folders_;
     SamplingCanvas* canvas_;
     MaterialPanel* material_ = nullptr;
     SendPanel* sends_ = nullptr;

@@ -218,6 +218,32 @@ TEST_F(FileListsTest, ARowOfAFolderListIsASelectionOnly) {
     EXPECT_THAT(events, ElementsAre("Click", "Click"));
 }
 
+TEST_F(FileListsTest, AFolderListFollowsTheDiskAndKeepsItsRow) {
+    DirListBox list(form, "Dir1", files);
+    list.SetPath("C:\\Mats");
+    list.SetListIndex(1);
+    Note(list.Change, "Change");
+    Note(list.Click, "Click");
+    int told = 0;
+    list.Watch([&] { ++told; });
+    list.FollowDisk();
+    EXPECT_EQ(told, 0) << "nothing has changed";
+    files.AddFolder("C:\\Mats\\Bio");
+    list.FollowDisk();
+    EXPECT_THAT(list.Rows(), ElementsAre("C:\\Mats\\Art", "C:\\Mats\\Bio", "C:\\Mats\\sub.jpg"));
+    EXPECT_EQ(list.ListIndex(), 2);
+    EXPECT_EQ(told, 1);
+    files.RemoveFolder("C:\\Mats\\sub.jpg");
+    list.FollowDisk();
+    EXPECT_EQ(list.ListCount(), 2);
+    EXPECT_EQ(list.ListIndex(), kNoRow);
+    files.RemoveFolder("C:\\Mats");
+    list.FollowDisk();
+    EXPECT_EQ(list.ListCount(), 0);
+    EXPECT_EQ(list.Path(), "C:\\Mats");
+    EXPECT_THAT(events, IsEmpty());
+}
+
 TEST_F(FileListsTest, ADriveListOffersTheDrivesAndTakesAnyText) {
     DriveListBox list(form, "Drive1", files);
     EXPECT_THAT(list.Rows(), ElementsAre("c:", "d:"));

@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QComboBox>
 #include <QTest>
 
 namespace mirelle::test {
@@ -78,6 +79,20 @@ TEST_F(ListsTest, ARowThatTheProgramSelectsShowsWithoutAClickOfItsOwn) {
     EXPECT_FALSE(view->currentIndex().isValid());
 }
 
+TEST_F(ListsTest, TheTipOfARowThatIsCutBeginsWithItsWholeText) {
+    const std::string path = "C:\\Pictures\\" + std::string(80, 'm') + "\\a.jpg";
+    form.List2.AddItem(path);
+    form.List2.AddItem("C:\\b.jpg");
+    binder.List(form.List2, *view);
+    const auto tipOf = [&](int row) {
+        return view->TipAt(view->visualRect(view->model()->index(row, 0)).center()).toStdString();
+    };
+    EXPECT_EQ(tipOf(0), path + "\nSuperBatch List: Double-click item to remove it from list");
+    EXPECT_EQ(tipOf(1), "");
+    EXPECT_EQ(view->textElideMode(), Qt::ElideMiddle);
+    EXPECT_EQ(view->TipAt({100, 290}).toStdString(), "") << "no row is there";
+}
+
 TEST_F(ListsTest, AHundredThousandNamesAreReadWhereTheyStand) {
     for (int file = 0; file < 100'000; ++file)
         program.files.AddFile("C:\\Many\\" + std::to_string(file) + ".jpg");
@@ -145,6 +160,26 @@ TEST_F(ListsTest, ReturnGoesIntoTheFolder) {
     QTest::keyClick(view, Qt::Key_Down);
     QTest::keyClick(view, Qt::Key_Return);
     EXPECT_EQ(form.Dir5.Path(), "C:\\Pictures\\One");
+}
+
+// A mounted folder may bear a name that is no text in the widget's eyes.
+class MountedFileSystem : public MemoryFileSystem {
+public:
+    std::vector<std::string> Drives() const override { return {"/", "/media/st\xFFick"}; }
+};
+
+TEST(DriveList, ChoosesTheDriveByItsNameAsItStandsOnTheDisk) {
+    MountedFileSystem files;
+    ScriptedLoader loader;
+    ScriptedEncoders encoders;
+    ScriptedDesktop desktop;
+    Sampler sampler(desktop.PortsOver(files, loader, encoders));
+    Binder binder(sampler.form);
+    QComboBox box;
+    binder.Drives(sampler.form.Drive5, box);
+    ASSERT_EQ(box.count(), 2);
+    emit box.activated(1);
+    EXPECT_EQ(sampler.form.Drive5.Drive(), "/media/st\xFFick");
 }
 
 TEST(FolderPaths, AreToldFromTheRootDown) {
