@@ -1,12 +1,7 @@
 // The library on a real disk, with the real loader and encoders: what is saved is listed and opened again.
-#include "desktop/encoders/FileEncoders.h"
-#include "desktop/files/NativeFileSystem.h"
-#include "desktop/pictures/ImageFileLoader.h"
 #include "forms/Text.h"
+#include "tests/desktop/library/DiskProgram.h"
 #include "tests/library/FileNameKinds.h"
-#include "tests/support/TemporaryFolder.h"
-#include "tests/support/TestPictures.h"
-#include "tests/support/TestProgram.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -20,42 +15,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-class DiskProgram {
-public:
-    DiskProgram() {
-        folder.MakeFolder("Support/Materials/Art");
-        form.Load();
-        form.Activate();
-        form.cmdMatDirs(0).UserClick();
-        form.picSmall.Picture = sample;
-    }
-    std::string InArt(const std::string& name) const { return folder / ("Support/Materials/Art/" + name); }
-    void Save(const std::string& name, const std::string& pattern) {
-        form.textProfileName.Text = name;
-        form.Combo5.Text = pattern;
-        form.Command3.UserClick();
-    }
-    void ShowPattern(const std::string& pattern) {
-        form.Combo5.Text = pattern;
-        form.Dir5.Click();
-    }
-    std::vector<std::string> EverythingInArt() const {
-        std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(InArt("")))
-            names.push_back(entry.path().filename().string());
-        return names;
-    }
-
-    TemporaryFolder folder;
-    NativeFileSystem files{folder.Path(), folder / "komp.txt"};
-    ImageFileLoader loader{files};
-    FileEncoders encoders{files};
-    ScriptedDesktop desktop;
-    Sampler sampler{desktop.PortsOver(files, loader, encoders)};
-    FrmPicX& form = sampler.form;
-    Picture sample{SmoothBitmap(64, 48)};
-};
 
 int GreatestDifference(const Bitmap& a, const Bitmap& b) {
     int greatest = 0;

@@ -2,6 +2,7 @@
 
 #include "desktop/files/NativeFileSystem.h"
 #include "tests/desktop/ports/Bytes.h"
+#include "tests/support/AsNobody.h"
 #include "tests/support/ErrorOf.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -16,28 +17,12 @@
 namespace mirelle {
 namespace {
 
+using test::AsNobody;
 using test::BytesOf;
 using test::ErrorOf;
 using test::TextOfBytes;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-// While it lives the test has the rights of a user whom no file belongs to, even where root runs it.
-class AsNobody {
-public:
-    AsNobody() : wasRoot_(::geteuid() == 0) {
-        if (wasRoot_ && ::seteuid(kNobody) != 0) std::abort();
-    }
-    ~AsNobody() {
-        if (wasRoot_ && ::seteuid(0) != 0) std::abort();
-    }
-    AsNobody(const AsNobody&) = delete;
-    AsNobody& operator=(const AsNobody&) = delete;
-
-private:
-    static constexpr uid_t kNobody = 65534;
-    bool wasRoot_;
-};
 
 class ForbiddenTest : public testing::Test {
 protected:
