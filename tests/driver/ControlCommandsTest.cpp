@@ -151,6 +151,8 @@ TEST_F(ControlCommands, AFolderOpensByADoubleClickOrByCode) {
 TEST_F(ControlCommands, ADriveIsChosenWithoutRegardToCase) {
     Note(say.Form().Drive5.Change, "Change");
     EXPECT_EQ(say("get Drive5.List"), R"(ok ["c:","d:"])");
+    EXPECT_EQ(say("get Drive5.List(1)"), R"(ok "d:")");
+    EXPECT_EQ(say("get Drive5.List(2)"), R"(ok "")");
     EXPECT_EQ(say("set Drive5.Drive D:"), "ok");
     EXPECT_EQ(say("get Drive5.Drive"), R"(ok "D:")");
     EXPECT_EQ(say("get Drive5.ListIndex"), "ok 1");

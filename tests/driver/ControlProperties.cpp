@@ -113,6 +113,12 @@ std::vector<Row> FileLists() {
         Of<DriveListBox>::ReadOnly("ListCount",
                                    [](DriveListBox& list) { return static_cast<int>(list.Rows().size()); }),
         Of<DriveListBox>::ReadOnly("List", [](DriveListBox& list) { return list.Rows(); }),
+        Of<DriveListBox>::ReadOnly("List",
+                                   [](DriveListBox& list, int row) {
+                                       const std::vector<std::string> rows = list.Rows();
+                                       const auto at = static_cast<std::size_t>(row);
+                                       return at < rows.size() ? rows[at] : std::string();
+                                   }),
         Of<DriveListBox>::ReadOnly("ListIndex", RowOfDrive),
         Of<DirListBox>::Of(
             "Path", [](DirListBox& list) { return list.Path(); },
