@@ -128,6 +128,15 @@ TEST_F(MaterialPreviewTest, EveryNewPictureSetsTheScrollRanges) {
     EXPECT_EQ(form.HSImage.Max, 105);
 }
 
+TEST_F(MaterialPreviewTest, ScrollRangesAreRoundedToWholeNumbersTiesToTheEvenOne) {
+    form.picSmall.AutoSize = false;
+    form.picSmall.Height = 10.5F;
+    form.picSmall.Width = 9.5F;
+    form.picSmall.Picture = material;
+    EXPECT_EQ(form.VSImage.Max, 16);
+    EXPECT_EQ(form.HSImage.Max, 14);
+}
+
 TEST_F(MaterialPreviewTest, ARangeBeyondSixteenBitsIsLeftAsItWas) {
     form.picSmall.Picture = ChartPicture(32763, 1);
     EXPECT_EQ(form.HSImage.Max, 65);

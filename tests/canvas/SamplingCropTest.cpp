@@ -69,6 +69,17 @@ TEST_F(SamplingCropTest, TheThumbnailStartsFromHalfTheRectangle) {
     EXPECT_FLOAT_EQ(form.Image1.Height, 300);
 }
 
+// The picture goes before the size changes, and a crop assigns none.
+TEST_F(SamplingCropTest, TheScrollRangesStayThoseOfTheImageBefore) {
+    form.picSmall.Picture = ChartPicture(60, 40);
+    Drag(10, 10, 110, 90);
+    EXPECT_EQ(form.HSImage.Max, 65);
+    EXPECT_EQ(form.VSImage.Max, 45);
+    Drag(10, 10, 30, 20);
+    EXPECT_EQ(form.HSImage.Max, 105);
+    EXPECT_EQ(form.VSImage.Max, 85);
+}
+
 TEST_F(SamplingCropTest, AClickCropsTheTypedSizeWithItsTopLeftAtTheClick) {
     form.TextCrop(0).Text = "30"; // height
     form.TextCrop(1).Text = "50"; // width

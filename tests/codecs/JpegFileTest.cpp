@@ -211,6 +211,14 @@ TEST(JpegSampling, AWidthBeyondTheNumberRangeRaisesOverflow) {
     EXPECT_EQ(RaisedBy([&] { jpeg.SampleHDC(Bitmap(4, 4), INT_MAX, 1); }).number, 6);
 }
 
+TEST(JpegSampling, APlaneOfMoreBytesThan32BitsCountRaisesOverflow) {
+    for (const int side : {30000, 2147483640}) {
+        cJPEG jpeg;
+        jpeg.SetSamplingFrequencies(1, 1, 1, 1, 1, 1);
+        EXPECT_EQ(RaisedBy([&] { jpeg.SampleDATA({}, 0, 0, side, side, 0, 0); }).number, 6) << side;
+    }
+}
+
 TEST(JpegSampling, AnEmptyPictureOfAnArrayRaisesOverflow) {
     cJPEG jpeg;
     const Bytes data(300);

@@ -262,6 +262,16 @@ TEST_F(FilePreviewTest, KeptMaterialImageGivesTheThumbnail) {
     EXPECT_FLOAT_EQ(form.Image1.Width, 300);
 }
 
+TEST_F(FilePreviewTest, ThumbnailStartsFromNineTenthsOfTheMaterialImage) {
+    form.ckKeep.Value = kChecked;
+    // Nine tenths are 350 exactly: neither below the limit nor above it.
+    form.picSmall.Width = 388.8889F;
+    form.picSmall.Height = 388.8889F;
+    program.ClickNewPicture("a.jpg");
+    EXPECT_EQ(form.Image1.Width, 350);
+    EXPECT_EQ(form.Image1.Height, 300);
+}
+
 TEST_F(FilePreviewTest, PreviewHasItsFixedSize) {
     form.Imagex.Move(0, 0, 10, 10);
     program.ClickNewPicture("a.jpg");
