@@ -5,6 +5,7 @@
 #include "forms/RunTimeError.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstring>
 
@@ -24,9 +25,15 @@ Bitmap CopyOf(const QImage& image) {
     return bitmap;
 }
 
-void ClearFourthBytes(Bitmap& bitmap) {
-    for (Pixel& pixel : bitmap.Pixels())
-        pixel.fourth = 0;
+// In one pass: a grab of a large screen is many megabytes.
+Bitmap CopyWithFourthBytesClear(const QImage& image) {
+    Bitmap bitmap(image.width(), image.height());
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* from = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        std::transform(from, from + image.width(), bitmap.Row(y).begin(),
+                       [](QRgb pixel) { return std::bit_cast<Pixel>(pixel & RGB_MASK); });
+    }
+    return bitmap;
 }
 
 // The toolkit keeps a pixel of these formats as one number 0xAARRGGBB.
@@ -57,9 +64,7 @@ Bitmap OpaqueBitmap(const QImage& image) {
 
 Bitmap BitmapWithAlpha(const QImage& image) {
     if (image.hasAlphaChannel()) return CopyOf(image.convertToFormat(QImage::Format_ARGB32));
-    Bitmap bitmap = CopyOf(image.convertToFormat(QImage::Format_RGB32));
-    ClearFourthBytes(bitmap);
-    return bitmap;
+    return CopyWithFourthBytesClear(image.convertToFormat(QImage::Format_RGB32));
 }
 
 QImage ImageOver(const Bitmap& bitmap) {
