@@ -113,12 +113,38 @@ TEST_F(BatchSendTest, ARowThatHoldsItsLastPartTwiceLosesTheFirst) {
     EXPECT_EQ(Sent().at(3), Material("a", "C:\\\\\\\\a.jpg"));
 }
 
-TEST_F(BatchSendTest, ANameTooShortToCutEndsTheRunThere) {
-    form.List2.AddItem("C:\\ab");
-    form.List2.AddItem("C:\\a.jpg");
+// Cutting four characters off three is error 5 as well, and so is told as a missing console is.
+TEST_F(BatchSendTest, ANameTooShortToCutEndsTheRunThereWithTheMessageOfAMissingConsole) {
+    form.List2.AddItem("C:\\ok.jpg");
+    form.List2.AddItem("C:\\abc");
+    form.List2.AddItem("C:\\never.jpg");
     form.Command13.Click();
-    EXPECT_EQ(Sent(), Texts{activate});
-    EXPECT_EQ(form.Label8(1).Caption(), "Sent: 0");
+    EXPECT_EQ(Sent(), (Texts{activate, shell, preamble, Material("ok", "C:\\\\ok.jpg"), "Pause 1.25"}));
+    EXPECT_EQ(form.Label8(1).Caption(), "Sent: 1");
+    EXPECT_EQ(OnlyMessage(), "Make sure the Ruby Console is visible");
+}
+
+TEST_F(BatchSendTest, ANameOfFourCharactersIsCutToNothingAndSent) {
+    form.List2.AddItem("C:\\.jpg");
+    form.Command13.Click();
+    EXPECT_EQ(Sent().at(3), Material("", "C:\\\\.jpg"));
+    EXPECT_EQ(form.Label8(1).Caption(), "Sent: 1");
+}
+
+TEST_F(BatchSendTest, ANetworkRowKeepsItsTwoLeadingBackslashes) {
+    form.List2.AddItem("\\\\server\\share (old)\\wall + 50%.jpg");
+    form.Command13.Click();
+    EXPECT_EQ(Sent().at(3), Material("wall + 50%", "\\\\\\\\server\\\\share (old)\\\\wall + 50%.jpg"));
+}
+
+TEST_F(BatchSendTest, TheFiltersTextDecidesTheStemWithRegardToCase) {
+    program.files.AddFile("C:\\Mat\\a.jpgb.jpg");
+    program.files.AddFile("C:\\Mat\\UP.JPG");
+    form.File5.SetPath("C:\\Mat");
+    form.Command10.UserClick();
+    const Texts sent = Sent();
+    EXPECT_EQ(sent.at(3).substr(0, 40), Material("ab", "").substr(0, 40));
+    EXPECT_EQ(form.textProfileName.Text(), "UP.JPG");
 }
 
 TEST_F(BatchSendTest, EscapeShortensOnePauseAndTheNextFileGoesOut) {

@@ -53,6 +53,22 @@ TEST_F(ColorPaletteTest, TenSamplesFillTheSlotsInOrderAndTheEleventhNone) {
     EXPECT_EQ(form.SampledColorValue, Variant(Long(RGB(7, 50, 10))));
 }
 
+TEST_F(ColorPaletteTest, WithAllSlotsFilledASampleStillShowsItsColourAndMakesTheSwatch) {
+    for (int sample = 0; sample < 10; ++sample)
+        Press(static_cast<float>(sample), 50);
+    form.picSmall.Picture = ChartPicture(30, 20);
+    form.ckSample.Value = kChecked;
+    Press(200, 150);
+    EXPECT_EQ(form.Frame2.BackColor, RGB(7, 150, 200));
+    EXPECT_EQ(form.SampledColorValue, Variant(Long(RGB(7, 150, 200))));
+    EXPECT_TRUE(form.picSmall.Picture().IsEmpty());
+    EXPECT_EQ(form.picSmall.Image().Pixels(), Bitmap(30, 20, Pixel{200, 150, 7, 0}));
+    for (int slot = 0; slot < 10; ++slot) {
+        EXPECT_EQ(form.Text2x(slot).Text(), "7,50," + std::to_string(slot));
+        EXPECT_EQ(form.cmdColor(slot).BackColor, RGB(7, 50, slot));
+    }
+}
+
 TEST_F(ColorPaletteTest, ASlotClearedByHandIsTheNextOneFilled) {
     for (int sample = 0; sample < 6; ++sample)
         Press(static_cast<float>(sample), 50);
@@ -185,8 +201,12 @@ TEST_F(ColorPaletteTest, ThePanelTakesThePlaceOfTheNamesAndInALargeWindowOfTheFi
             EXPECT_EQ(control->Visible, files) << control->Name();
         }
     };
+    form.FramePics.Height = 1;
+    form.FramePics.Width = 1;
     form.cmdColorPick.UserClick();
     EXPECT_TRUE(form.FramePics.Visible);
+    EXPECT_EQ(form.FramePics.Height, 3650);
+    EXPECT_EQ(form.FramePics.Width, 3945);
     visible(false, true);
     form.cmdColorPick.UserClick();
     EXPECT_FALSE(form.FramePics.Visible);
