@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
     mirelle::MainWindow window(sampler.form);
     desktop.dialogs.SetParent(&window);
     desktop.screen.SetWindow(&window);
-    QObject::connect(&desktop.pump, &mirelle::QtEventPump::Busy, &window, &mirelle::MainWindow::SetBusy);
+    QObject::connect(&desktop.pump, &mirelle::QtEventPump::Pausing, &window, &mirelle::MainWindow::ShowPause);
 
     sampler.form.Load();
     window.Start();

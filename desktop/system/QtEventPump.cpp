@@ -42,13 +42,13 @@ void QtEventPump::DoEvents(PumpSite site) {
     }
 }
 
-void QtEventPump::PauseBegins(double) {
-    if (pauses_++ == 0) emit Busy(true);
+void QtEventPump::PauseBegins(double seconds) {
+    if (pauses_++ == 0) emit Pausing(seconds);
 }
 
 void QtEventPump::PauseEnds() {
     pauses_ = std::max(0, pauses_ - 1);
-    if (pauses_ == 0) emit Busy(false);
+    if (pauses_ == 0) emit Pausing(0);
 }
 
 } // namespace mirelle

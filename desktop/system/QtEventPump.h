@@ -23,8 +23,8 @@ public:
     void PauseEnds() override;
 
 signals:
-    // A pause began or the last one ended: something longer is under way.
-    void Busy(bool busy);
+    // A pause of so many seconds began while none was going; 0 when it has ended.
+    void Pausing(double seconds);
 
 private:
     QElapsedTimer sinceStart_;

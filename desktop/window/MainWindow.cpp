@@ -4,7 +4,6 @@
 #include "desktop/binding/RowsView.h"
 #include "desktop/binding/Updater.h"
 #include "desktop/canvas/SamplingCanvas.h"
-#include "desktop/look/ProgressLine.h"
 #include "desktop/window/CanvasPanel.h"
 #include "desktop/window/FloatingPanel.h"
 #include "desktop/window/GradientPanel.h"
@@ -94,16 +93,8 @@ void MainWindow::Start() {
     binder_.Run([this] { form_.Activate(); });
 }
 
-void MainWindow::SetBusy(bool busy) {
-    pumping_ = busy;
-    ShowBusy();
-}
-
-void MainWindow::ShowBusy() {
-    if (pumping_ || hourglass_)
-        lower_->Progress().ShowBusy();
-    else
-        lower_->Progress().Clear();
+void MainWindow::ShowPause(double seconds) {
+    lower_->ShowPause(seconds);
 }
 
 void MainWindow::PlaceAll() {
@@ -155,7 +146,7 @@ void MainWindow::FollowFormAtOnce() {
             QApplication::setOverrideCursor(Qt::WaitCursor);
         else
             QApplication::restoreOverrideCursor();
-        ShowBusy();
+        lower_->ShowLongWork(hourglass);
     }
     if (std::exchange(knownState_, form_.WindowState) == form_.WindowState) return;
     const auto others = windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen);

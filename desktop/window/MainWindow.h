@@ -32,8 +32,8 @@ public:
     SamplingCanvas& Canvas() { return *canvas_; }
 
 public slots:
-    // Something longer than a moment is under way, or ended.
-    void SetBusy(bool busy);
+    // A handler pauses so many seconds; 0 when the pause has ended.
+    void ShowPause(double seconds);
 
 protected:
     bool event(QEvent* event) override;
@@ -48,7 +48,6 @@ private:
     void TellFormLater();
     void TellForm();
     void FollowFormAtOnce(); // what can't wait for the next turn: pointer, window state
-    void ShowBusy();
 
     FrmPicX& form_;
     Binder binder_;
@@ -64,7 +63,6 @@ private:
     FloatingPanel* floating_ = nullptr;
     bool placing_ = false;
     bool telling_ = false;
-    bool pumping_ = false;
     bool hourglass_ = false;
     int knownState_ = kWindowNormal;
 };

@@ -52,14 +52,14 @@ TEST(EventPump, RunsWhatWaits) {
 
 TEST(EventPump, TellsThatAPauseIsUnderWayUntilTheLastOneEnds) {
     QtEventPump pump;
-    std::vector<bool> busy;
-    QObject::connect(&pump, &QtEventPump::Busy, qApp, [&](bool now) { busy.push_back(now); });
+    std::vector<double> pauses;
+    QObject::connect(&pump, &QtEventPump::Pausing, qApp, [&](double now) { pauses.push_back(now); });
     pump.PauseBegins(1);
     pump.PauseBegins(1.25);
     pump.PauseEnds();
-    EXPECT_EQ(busy, std::vector<bool>({true}));
+    EXPECT_EQ(pauses, std::vector<double>({1}));
     pump.PauseEnds();
-    EXPECT_EQ(busy, std::vector<bool>({true, false}));
+    EXPECT_EQ(pauses, std::vector<double>({1, 0}));
 }
 
 TEST(WindowKeyboard, TellsEscapeOnce) {

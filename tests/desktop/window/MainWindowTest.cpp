@@ -103,9 +103,9 @@ TEST(MainWindow, ShowsTheHourglassAndTheProgressLineAtOnce) {
     opened.form.MousePointer = kPointerDefault;
     EXPECT_FALSE(QGuiApplication::overrideCursor());
     EXPECT_FALSE(line->IsShowing());
-    opened.window->SetBusy(true);
+    opened.window->ShowPause(3);
     EXPECT_TRUE(line->IsBusy());
-    opened.window->SetBusy(false);
+    opened.window->ShowPause(0);
     EXPECT_FALSE(line->IsShowing());
 }
 
