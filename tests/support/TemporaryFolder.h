@@ -2,12 +2,11 @@
 #pragma once
 
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <span>
 #include <sstream>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -18,9 +17,13 @@ namespace mirelle::test {
 class TemporaryFolder {
 public:
     TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "mirelle-test-XXXXXX").string();
-        if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no folder for the test");
-        path_ = std::filesystem::canonical(name).string();
+        const std::filesystem::path place = std::filesystem::temp_directory_path();
+        std::random_device random;
+        std::filesystem::path folder;
+        do
+            folder = place / ("mirelle-test-" + std::to_string(random()));
+        while (!std::filesystem::create_directory(folder));
+        path_ = std::filesystem::canonical(folder).string();
     }
     ~TemporaryFolder() {
         std::error_code ignored;
