@@ -70,6 +70,10 @@ NativeFileSystem::NativeFileSystem(const std::string& appFolder, std::string dum
     : appFolder_(WithoutEndingSeparator(appFolder)), dumpFile_(std::move(dumpFile)),
       fence_(fence.empty() ? std::string() : RealFolder(fence)) {}
 
+char NativeFileSystem::Separator() const {
+    return '/';
+}
+
 std::vector<std::string> NativeFileSystem::Drives() const {
     if (!fence_.empty()) return {fence_};
     std::vector<std::string> drives = {"/"};
@@ -135,7 +139,7 @@ void NativeFileSystem::MakeWritable(const std::string& path) {
     host::GiveWritePermission(Checked(path, ErrorNumber::FileNotFound));
 }
 
-const std::string& NativeFileSystem::Checked(const std::string& path, ErrorNumber outOfReach) const {
+std::string NativeFileSystem::Checked(const std::string& path, ErrorNumber outOfReach) const {
     if (!IsPath(path)) throw RunTimeError(ErrorNumber::PathFileAccess);
     if (!IsInReach(path)) throw RunTimeError(outOfReach);
     return path;

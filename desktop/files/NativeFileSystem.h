@@ -1,4 +1,4 @@
-// Files and folders of this machine under its own paths, parted by slashes.
+// Files and folders of this machine under its own paths.
 #pragma once
 
 #include "desktop/files/HostFiles.h"
@@ -16,7 +16,7 @@ public:
     // that lead out of it included, and it is the only drive.
     NativeFileSystem(const std::string& appFolder, std::string dumpFile, const std::string& fence = {});
 
-    char Separator() const override { return '/'; }
+    char Separator() const override;
     std::string AppPath() const override { return appFolder_; }
     std::string DumpFile() const override { return dumpFile_; }
     std::vector<std::string> Drives() const override;
@@ -37,8 +37,9 @@ public:
 private:
     bool IsInReach(const std::string& path) const;
     std::vector<std::string> NamesIn(const std::string& folder, host::EntryKind kind) const;
-    // The path itself. Raises 75 where it is no path at all, `outOfReach` where it leads outside.
-    const std::string& Checked(const std::string& path, ErrorNumber outOfReach) const;
+    // The path as the machine takes it. Raises 75 where it is no path at all, `outOfReach` where it leads
+    // outside.
+    std::string Checked(const std::string& path, ErrorNumber outOfReach) const;
 
     std::string appFolder_;
     std::string dumpFile_;

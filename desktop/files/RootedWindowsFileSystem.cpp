@@ -97,7 +97,7 @@ std::vector<std::string> RootedWindowsFileSystem::NamesIn(const std::string& fol
         return !host::RealPathBelow(root_, *place + '/' + name).empty();
     };
     std::vector<std::string> names = host::EntryNames(*place, kind, staysInside);
-    std::erase_if(names, [](const std::string& name) { return !IsWindowsName(name); });
+    std::erase_if(names, [](const std::string& name) { return name.front() == '.' || !IsWindowsName(name); });
     return names;
 }
 

@@ -1,8 +1,9 @@
 #include "desktop/system/HomeFolder.h"
 
+#include "desktop/system/PathText.h"
+
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 
 namespace mirelle {
 
@@ -11,7 +12,7 @@ std::string HomeFolder(const QStringList& arguments) {
     const QString folder = option >= 0 && option + 1 < arguments.size()
                                ? arguments[option + 1]
                                : QCoreApplication::applicationDirPath();
-    return QFile::encodeName(QDir(folder).absolutePath()).toStdString();
+    return PathText(QDir(folder).absolutePath());
 }
 
 } // namespace mirelle

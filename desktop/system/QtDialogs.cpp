@@ -1,9 +1,9 @@
 #include "desktop/system/QtDialogs.h"
 
 #include "desktop/system/FileFilter.h"
+#include "desktop/system/PathText.h"
 
 #include <QColorDialog>
-#include <QFile>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -49,7 +49,7 @@ std::optional<std::string> QtDialogs::ShowOpen(const OpenRequest& request) {
     dialog.setNameFilters(NameFilters(request.filter));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     folder_ = dialog.directory().absolutePath();
-    return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
+    return PathText(dialog.selectedFiles().constFirst());
 }
 
 std::optional<Color> QtDialogs::ShowColor(Color current) {

@@ -7,7 +7,6 @@
 #include "desktop/system/QtEventPump.h"
 #include "desktop/system/QtProcess.h"
 #include "desktop/system/QtScreen.h"
-#include "desktop/system/QtViewer.h"
 #include "forms/Ports.h"
 
 #include <memory>
@@ -32,8 +31,8 @@ private:
     std::unique_ptr<PictureLoader> loader_;
     std::unique_ptr<ImageEncoders> encoders_;
     QtClipboard clipboard_;
-    QtViewer viewer_;
     QtProcess process_;
+    std::unique_ptr<SystemViewer> viewer_;
     std::unique_ptr<ConsoleShell> console_;
     std::unique_ptr<Keyboard> keyboard_;
 };

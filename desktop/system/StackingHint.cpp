@@ -11,6 +11,8 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#elif defined(_WIN32)
+#include "desktop/windows/TopMost.h"
 #endif
 
 namespace mirelle {
@@ -60,6 +62,8 @@ bool KeepAbove(QWidget& window, bool above) {
         window.windowHandle()->setFlag(Qt::WindowStaysOnTopHint, above);
         return AskWindowManager(x11->connection(), static_cast<xcb_window_t>(window.winId()), above);
     }
+#elif defined(_WIN32)
+    if (window.isVisible()) return windows::SetTopMost(window.winId(), above);
 #endif
     if (window.isVisible() && window.windowHandle()) {
         window.windowHandle()->setFlag(Qt::WindowStaysOnTopHint, above);

@@ -1,0 +1,111 @@
+#include "desktop/windows/GdiPlusEncoders.h"
+
+#include "desktop/windows/DeviceBitmap.h"
+#include "desktop/windows/NewFile.h"
+#include "desktop/windows/System.h"
+#include "desktop/windows/Wide.h"
+#include "forms/RunTimeError.h"
+
+#include <algorithm>
+#include <array>
+#include <cwchar>
+#include <optional>
+#include <vector>
+
+// Its header colours by a macro of the system's that the program's own function of that name stands for here.
+using mirelle::RGB;
+#include <gdiplus.h>
+
+namespace mirelle {
+namespace {
+
+namespace flat = Gdiplus::DllExports;
+
+struct MimeRow {
+    ImageFormat format;
+    const wchar_t* mimeType;
+};
+constexpr std::array kMimeTypes = {
+    MimeRow{ImageFormat::Png, L"image/png"},   MimeRow{ImageFormat::Gif, L"image/gif"},
+    MimeRow{ImageFormat::Jpeg, L"image/jpeg"}, MimeRow{ImageFormat::Tiff, L"image/tiff"},
+    MimeRow{ImageFormat::Bmp, L"image/bmp"},
+};
+
+bool SameInAnyCase(const wchar_t* first, const wchar_t* second) {
+    return CompareStringOrdinal(first, -1, second, -1, TRUE) == CSTR_EQUAL;
+}
+
+// The class of the encoder for a format, as the system lists its encoders; nothing where it has none.
+std::optional<CLSID> EncoderClsid(ImageFormat format) {
+    const auto* wanted = std::find_if(kMimeTypes.begin(), kMimeTypes.end(),
+                                      [format](const MimeRow& row) { return row.format == format; });
+    UINT count = 0;
+    UINT size = 0;
+    if (wanted == kMimeTypes.end() || flat::GdipGetImageEncodersSize(&count, &size) != Gdiplus::Ok ||
+        size == 0)
+        return std::nullopt;
+    // The records stand first in the block, and the texts that they point to behind them.
+    std::vector<Gdiplus::ImageCodecInfo> block(size / sizeof(Gdiplus::ImageCodecInfo) + 1);
+    if (flat::GdipGetImageEncoders(count, size, block.data()) != Gdiplus::Ok) return std::nullopt;
+    for (UINT i = 0; i < count; ++i)
+        if (SameInAnyCase(block[i].MimeType, wanted->mimeType)) return block[i].Clsid;
+    return std::nullopt;
+}
+
+// A GIF file has a palette, and GDI+ would take one that has nothing to do with the picture.
+windows::DeviceBitmap BitmapFor(ImageFormat format, const Bitmap& bitmap) {
+    if (format != ImageFormat::Gif) return windows::DeviceBitmap(bitmap);
+    const std::optional<IndexedBitmap> exact = IndexExactly(bitmap);
+    return windows::DeviceBitmap(exact ? *exact : IndexByDithering(bitmap));
+}
+
+class Image {
+public:
+    explicit Image(const windows::DeviceBitmap& bitmap) {
+        if (flat::GdipCreateBitmapFromHBITMAP(bitmap.Handle(), nullptr, &image_) != Gdiplus::Ok)
+            image_ = nullptr;
+    }
+    ~Image() {
+        if (image_ != nullptr) flat::GdipDisposeImage(image_);
+    }
+    Image(const Image&) = delete;
+    Image& operator=(const Image&) = delete;
+
+    bool Save(const std::wstring& path, const CLSID& encoder) const {
+        return image_ != nullptr &&
+               flat::GdipSaveImageToFile(image_, path.c_str(), &encoder, nullptr) == Gdiplus::Ok;
+    }
+
+private:
+    Gdiplus::GpBitmap* image_ = nullptr;
+};
+
+} // namespace
+
+void GdiPlusEncoders::Start() {
+    if (token_ != 0) return;
+    Gdiplus::GdiplusStartupInput input; // version 1, nothing else
+    ULONG_PTR token = 0;
+    if (Gdiplus::GdiplusStartup(&token, &input, nullptr) != Gdiplus::Ok)
+        throw RunTimeError(ErrorNumber::DeviceIOError);
+    token_ = token;
+}
+
+void GdiPlusEncoders::Stop() {
+    if (token_ != 0) Gdiplus::GdiplusShutdown(token_);
+    token_ = 0;
+}
+
+bool GdiPlusEncoders::Save(const Picture& picture, ImageFormat format, const std::string& path) {
+    if (token_ == 0 || picture.IsEmpty() || picture.Pixels().IsEmpty()) return false;
+    const std::optional<CLSID> encoder = EncoderClsid(format);
+    if (!encoder) return false;
+    return ResumeNext([&] {
+        const windows::DeviceBitmap bitmap = BitmapFor(format, picture.Pixels());
+        windows::NewFile file(path);
+        if (!Image(bitmap).Save(file.Path(), *encoder)) throw RunTimeError(ErrorNumber::DeviceIOError);
+        file.TakePlace();
+    });
+}
+
+} // namespace mirelle

@@ -1,0 +1,62 @@
+#include "desktop/windows/ScriptShell.h"
+
+#include "desktop/windows/System.h"
+#include "desktop/windows/Wide.h"
+#include "forms/RunTimeError.h"
+
+#include <oleauto.h>
+
+namespace mirelle::windows {
+namespace {
+
+// A text as COM hands it over.
+class BasicString {
+public:
+    explicit BasicString(const std::wstring& text)
+        : text_(SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))) {}
+    ~BasicString() { SysFreeString(text_); }
+    BasicString(const BasicString&) = delete;
+    BasicString& operator=(const BasicString&) = delete;
+
+    BSTR Get() const { return text_; }
+
+private:
+    BSTR text_;
+};
+
+bool IsMissing(HRESULT result) {
+    return result == E_NOTIMPL || result == DISP_E_UNKNOWNNAME || result == DISP_E_MEMBERNOTFOUND;
+}
+
+} // namespace
+
+std::unique_ptr<ScriptShell> ScriptShell::Create() {
+    CLSID id{};
+    if (FAILED(CLSIDFromProgID(L"WScript.Shell", &id))) return nullptr;
+    void* object = nullptr;
+    if (FAILED(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, &object))) return nullptr;
+    return std::unique_ptr<ScriptShell>(new ScriptShell(static_cast<IDispatch*>(object)));
+}
+
+ScriptShell::~ScriptShell() {
+    object_->Release();
+}
+
+bool ScriptShell::SendKeys(const std::string& text) {
+    wchar_t nameText[] = L"SendKeys";
+    LPOLESTR name = nameText;
+    DISPID method = 0;
+    if (FAILED(object_->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &method))) return false;
+    const BasicString keys(Wide(text));
+    VARIANTARG argument{};
+    argument.vt = VT_BSTR;
+    argument.bstrVal = keys.Get();
+    DISPPARAMS arguments{&argument, nullptr, 1, 0};
+    const HRESULT result = object_->Invoke(method, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &arguments,
+                                           nullptr, nullptr, nullptr);
+    if (IsMissing(result)) return false;
+    if (FAILED(result)) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+    return true;
+}
+
+} // namespace mirelle::windows

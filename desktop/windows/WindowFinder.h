@@ -1,0 +1,16 @@
+// Finds a window by its title and brings it to the front.
+#pragma once
+
+#include "desktop/windows/System.h"
+
+#include <string_view>
+
+namespace mirelle::windows {
+
+// The window that a title asks for among those that are seen, the uppermost first; null where there is none.
+HWND FindWindowTitled(std::string_view title);
+
+// Brings the window to the front, opening it up where it is minimised. Returns whether it has the focus then.
+bool BringToFront(HWND window);
+
+} // namespace mirelle::windows
