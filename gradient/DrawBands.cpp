@@ -1,16 +1,18 @@
 #include "gradient/GradientBands.h"
 
 #include "forms/AlphaBlend.h"
-#include "forms/FunctionVersions.h"
+#include "gradient/BlendChains.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
+#include <cstring>
+#include <optional>
 #include <span>
+#include <utility>
 
 // Neighbouring bands overlap, up to a pixel in some twenty of them. Drawn band by band, the picture would go
 // through memory as often. Here each pixel is fetched once and takes all its blends, in the order of the
-// bands: the alphas that meet a column (or a row) are listed first.
+// bands: the alphas that meet a column (or a row) are listed first, as the chain of that place.
 
 namespace mirelle {
 namespace {
@@ -42,67 +44,6 @@ std::vector<Alphas> AlphasAlong(const std::vector<Band>& bands, int length, bool
     return alphas;
 }
 
-constexpr std::size_t kBlock = 64; // bytes that take their blends together
-
-// `rounds` blends of each byte; round k takes its alphas from alphas[k * stride] on.
-MIRELLE_VERSIONED
-void BlendRounds(std::uint8_t* to, const std::uint8_t* from, std::size_t count, const std::uint8_t* alphas,
-                 std::size_t stride, std::size_t rounds) {
-    std::array<std::uint16_t, kBlock> destination;
-    std::array<std::uint16_t, kBlock> source;
-    std::size_t at = 0;
-    for (; at + kBlock <= count; at += kBlock) {
-        for (std::size_t i = 0; i < kBlock; ++i)
-            destination[i] = to[at + i];
-        for (std::size_t i = 0; i < kBlock; ++i)
-            source[i] = from[at + i];
-        for (std::size_t round = 0; round < rounds; ++round) {
-            const std::uint8_t* alpha = alphas + round * stride + at;
-            for (std::size_t i = 0; i < kBlock; ++i) {
-                const auto w = static_cast<std::uint16_t>(destination[i] * 255 +
-                                                          (source[i] - destination[i]) * alpha[i] + 128);
-                destination[i] = static_cast<std::uint16_t>(static_cast<std::uint16_t>(w + (w >> 8)) >> 8);
-            }
-        }
-        for (std::size_t i = 0; i < kBlock; ++i)
-            to[at + i] = static_cast<std::uint8_t>(destination[i]);
-    }
-    for (; at < count; ++at) {
-        for (std::size_t round = 0; round < rounds; ++round) {
-            to[at] = Blended(from[at], to[at], alphas[round * stride + at]);
-        }
-    }
-}
-
-// The same with one alpha a round for all bytes.
-MIRELLE_VERSIONED
-void BlendRoundsOfRow(std::uint8_t* to, const std::uint8_t* from, std::size_t count,
-                      const std::uint8_t* alphas, std::size_t rounds) {
-    std::array<std::uint16_t, kBlock> destination;
-    std::array<std::uint16_t, kBlock> source;
-    std::size_t at = 0;
-    for (; at + kBlock <= count; at += kBlock) {
-        for (std::size_t i = 0; i < kBlock; ++i)
-            destination[i] = to[at + i];
-        for (std::size_t i = 0; i < kBlock; ++i)
-            source[i] = from[at + i];
-        for (std::size_t round = 0; round < rounds; ++round) {
-            const std::uint16_t alpha = alphas[round];
-            for (std::size_t i = 0; i < kBlock; ++i) {
-                const auto w = static_cast<std::uint16_t>(destination[i] * 255 +
-                                                          (source[i] - destination[i]) * alpha + 128);
-                destination[i] = static_cast<std::uint16_t>(static_cast<std::uint16_t>(w + (w >> 8)) >> 8);
-            }
-        }
-        for (std::size_t i = 0; i < kBlock; ++i)
-            to[at + i] = static_cast<std::uint8_t>(destination[i]);
-    }
-    for (; at < count; ++at) {
-        for (std::size_t round = 0; round < rounds; ++round)
-            to[at] = Blended(from[at], to[at], alphas[round]);
-    }
-}
-
 std::uint8_t* BytesOf(std::span<Pixel> pixels) {
     return reinterpret_cast<std::uint8_t*>(pixels.data());
 }
@@ -110,41 +51,105 @@ const std::uint8_t* BytesOf(std::span<const Pixel> pixels) {
     return reinterpret_cast<const std::uint8_t*>(pixels.data());
 }
 
-// A stretch of columns whose alphas are laid out round by round, four times each for the bytes of a pixel.
-constexpr int kColumns = 256;
+constexpr std::size_t kPixelBytes = sizeof(Pixel);
+constexpr std::uint8_t kUntouched = 255; // the limits at the two ends
+constexpr std::uint8_t kSource = 0;
 
-void DrawAcross(Bitmap& destination, const Bitmap& source, const std::vector<Alphas>& alphas, int width,
-                int height) {
-    Alphas table;
-    for (int left = 0; left < width; left += kColumns) {
-        const int columns = std::min(kColumns, width - left);
-        const std::size_t bytes = static_cast<std::size_t>(columns) * sizeof(Pixel);
-        std::size_t rounds = 0;
-        for (int c = 0; c < columns; ++c)
-            rounds = std::max(rounds, alphas[static_cast<std::size_t>(left + c)].size());
-        if (rounds == 0) continue;
-        table.assign(rounds * bytes, 0); // an alpha of 0 changes nothing
-        for (int c = 0; c < columns; ++c) {
-            const Alphas& here = alphas[static_cast<std::size_t>(left + c)];
-            for (std::size_t round = 0; round < here.size(); ++round) {
-                std::fill_n(table.begin() + static_cast<std::ptrdiff_t>(round * bytes) + c * 4, 4,
-                            here[round]);
-            }
+// Columns side by side that are drawn in one way.
+struct Columns {
+    enum class Way { Leave, Copy, Limit, Chain } way = Way::Leave;
+    std::size_t begin = 0; // bytes of a row
+    std::size_t bytes = 0;
+    std::vector<std::uint8_t> limits{}; // for Limit: one for each byte
+    std::optional<ChainTable> chains{}; // for Chain
+};
+
+Columns::Way WayOf(const std::optional<std::uint8_t>& limit) {
+    if (!limit) return Columns::Way::Chain;
+    if (*limit == kUntouched) return Columns::Way::Leave;
+    return *limit == kSource ? Columns::Way::Copy : Columns::Way::Limit;
+}
+
+ChainTable TableOf(std::span<const Alphas> columns) {
+    std::size_t links = 0;
+    for (const Alphas& alphas : columns)
+        links = std::max(links, alphas.size());
+    ChainTable table(columns.size() * kPixelBytes, links);
+    for (std::size_t column = 0; column < columns.size(); ++column) {
+        for (std::size_t link = 0; link < columns[column].size(); ++link) {
+            for (std::size_t byte = 0; byte < kPixelBytes; ++byte)
+                table.Set(link, column * kPixelBytes + byte, columns[column][link]);
         }
-        for (int y = 0; y < height; ++y) {
-            BlendRounds(BytesOf(destination.Row(y)) + left * 4, BytesOf(source.Row(y)) + left * 4, bytes,
-                        table.data(), bytes, rounds);
+    }
+    return table;
+}
+
+std::vector<Columns> WaysAcross(const std::vector<Alphas>& alphas) {
+    std::vector<std::optional<std::uint8_t>> limits;
+    limits.reserve(alphas.size());
+    for (const Alphas& here : alphas)
+        limits.push_back(LimitOf(here));
+    std::vector<Columns> ways;
+    for (std::size_t begin = 0; begin < alphas.size();) {
+        const Columns::Way way = WayOf(limits[begin]);
+        std::size_t end = begin + 1;
+        while (end < alphas.size() && WayOf(limits[end]) == way)
+            ++end;
+        Columns columns{way, begin * kPixelBytes, (end - begin) * kPixelBytes};
+        if (way == Columns::Way::Limit) {
+            for (std::size_t column = begin; column < end; ++column)
+                columns.limits.insert(columns.limits.end(), kPixelBytes, *limits[column]);
+        }
+        if (way == Columns::Way::Chain)
+            columns.chains = TableOf(std::span(alphas).subspan(begin, end - begin));
+        ways.push_back(std::move(columns));
+        begin = end;
+    }
+    return ways;
+}
+
+void DrawAcross(Bitmap& destination, const Bitmap& source, const std::vector<Alphas>& alphas, int height) {
+    const std::vector<Columns> ways = WaysAcross(alphas);
+    for (int y = 0; y < height; ++y) {
+        for (const Columns& columns : ways) {
+            std::uint8_t* to = BytesOf(destination.Row(y)) + columns.begin;
+            const std::uint8_t* from = BytesOf(source.Row(y)) + columns.begin;
+            switch (columns.way) {
+            case Columns::Way::Leave:
+                break;
+            case Columns::Way::Copy:
+                std::memcpy(to, from, columns.bytes);
+                break;
+            case Columns::Way::Limit:
+                LimitDistances(to, from, columns.limits.data(), columns.bytes);
+                break;
+            case Columns::Way::Chain:
+                columns.chains->Blend(to, from, columns.bytes);
+                break;
+            }
         }
     }
 }
 
-void DrawDown(Bitmap& destination, const Bitmap& source, const std::vector<Alphas>& alphas, int width,
-              int height) {
-    for (int y = 0; y < height; ++y) {
-        const Alphas& here = alphas[static_cast<std::size_t>(y)];
-        if (here.empty()) continue;
-        BlendRoundsOfRow(BytesOf(destination.Row(y)), BytesOf(source.Row(y)),
-                         static_cast<std::size_t>(width) * sizeof(Pixel), here.data(), here.size());
+void DrawDown(Bitmap& destination, const Bitmap& source, const std::vector<Alphas>& alphas, int width) {
+    const std::size_t bytes = static_cast<std::size_t>(width) * kPixelBytes;
+    for (std::size_t y = 0; y < alphas.size(); ++y) {
+        std::uint8_t* to = BytesOf(destination.Row(static_cast<int>(y)));
+        const std::uint8_t* from = BytesOf(source.Row(static_cast<int>(y)));
+        const std::optional<std::uint8_t> limit = LimitOf(alphas[y]);
+        switch (WayOf(limit)) {
+        case Columns::Way::Leave:
+            break;
+        case Columns::Way::Copy:
+            std::memcpy(to, from, bytes);
+            break;
+        case Columns::Way::Limit:
+            LimitDistances(to, from, *limit, bytes);
+            break;
+        case Columns::Way::Chain:
+            BlendChain(to, from, alphas[y], bytes);
+            break;
+        }
     }
 }
 
@@ -170,9 +175,9 @@ void DrawBands(Bitmap& destination, const Bitmap& source, const std::vector<Band
         return !drawn(band) || (band.to.x <= 0 && band.to.Right() >= width);
     });
     if (straight && across) {
-        DrawAcross(destination, source, AlphasAlong(bands, width, true), width, height);
+        DrawAcross(destination, source, AlphasAlong(bands, width, true), height);
     } else if (straight && down) {
-        DrawDown(destination, source, AlphasAlong(bands, height, false), width, height);
+        DrawDown(destination, source, AlphasAlong(bands, height, false), width);
     } else {
         DrawBandsPlain(destination, source, bands);
     }
