@@ -11,12 +11,14 @@
 #include <cstdio>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace {
 
 using mirelle::test::ConsoleProcess;
 
 constexpr int kRounds = 5;
+constexpr int kSends = 21;
 
 struct Text {
     const char* name;
@@ -54,6 +56,36 @@ Result Measure(const Text& text, ConsoleProcess& console, const std::function<vo
     return result;
 }
 
+// One new material, as a send types it, while another window is in front: the milliseconds from the
+// activation to the moment when the console has read the last key.
+void MeasureOneSend(ConsoleProcess& console, mirelle::X11Console& desktop) {
+    const std::string preamble =
+        "model = Sketchup::active_model\rmodel.entities.count\rmaterials = model.materials\r";
+    const std::string material =
+        "material = materials.add \"Brick_12\"\r"
+        "material.texture = \"C:\\\\Mirelle\\\\Support\\\\Materials\\\\Industrial\\\\"
+        "Brick_12.jpg\"\r";
+    ConsoleProcess other("Other");
+    std::vector<double> times;
+    for (int round = 0; round < kSends; ++round) {
+        desktop.AppActivate("Other");
+        console.TakeRecord();
+        const auto start = std::chrono::steady_clock::now();
+        desktop.AppActivate("Ruby Console");
+        const auto shell = desktop.CreateObject("WScript.Shell");
+        shell->SendKeys(preamble);
+        shell->SendKeys(material);
+        const bool exact = console.TakeRecord() == preamble + material;
+        const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
+        if (exact) times.push_back(time.count());
+    }
+    std::ranges::sort(times);
+    std::printf("one material of %zu characters: %zu/%d exact", preamble.size() + material.size(),
+                times.size(), kSends);
+    if (!times.empty()) std::printf(", %.1f ms (worst %.1f)", times[times.size() / 2], times.back());
+    std::printf("\n");
+}
+
 } // namespace
 
 int main() {
@@ -63,6 +95,7 @@ int main() {
     };
     ConsoleProcess console("Ruby Console");
     mirelle::X11Console desktop;
+    MeasureOneSend(console, desktop); // first: xdotool leaves the window manager busy for long
     desktop.AppActivate("Ruby Console");
     std::printf("%-22s %16s %10s %16s %10s\n", "text", "ours (char/s)", "exact", "xdotool (char/s)", "exact");
     for (const Text& text : texts) {
