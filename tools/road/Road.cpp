@@ -12,9 +12,8 @@
 namespace mirelle::road {
 namespace {
 
-// Lists, by how their names begin: the rest tells what they do at the moment.
+// The list of files, by how its name begins: the rest tells what it does at the moment.
 constexpr const char* kFiles = "Click to preview image file";
-constexpr const char* kSuperBatch = "SuperBatch List: Double-click item to remove it from list";
 constexpr const char* kChart = "Click image to sample color to SketchUp Send palette to right";
 constexpr const char* kSlot = "Enter or sample RGB Color value to send to SketchUp";
 constexpr const char* kNames = "Materials Images";
@@ -101,7 +100,9 @@ void Road::Select(const LibraryFile& file) {
 void Road::LineUp(const LibraryFile& file) {
     EnterFolder(file.folder);
     desk_.Click(Row(kFiles, file.file).place);
-    Row(kSuperBatch, PathOf(file));
+    // One click does both: it names the material and adds the row.
+    const std::string stem = std::filesystem::path(file.file).stem().string();
+    Await("the name of " + file.file, [&] { return Name() == stem; });
 }
 
 std::string Road::SampleColour() {
