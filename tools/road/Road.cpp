@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
 
@@ -20,6 +21,19 @@ constexpr const char* kNames = "Materials Images";
 
 // Something of each: far enough apart that no panel covers all of them.
 constexpr Place kProbes[] = {{40, 40, 1, 1}, {260, 200, 1, 1}, {400, 90, 1, 1}};
+
+// After so many looks a row that is not told is taken to be where its neighbours say.
+constexpr int kPatientLooks = 30;
+
+// Art_12.jpg is number 12 of Art.
+std::string StemOf(const std::string& file) {
+    return file.substr(0, file.find('_'));
+}
+
+int NumberOf(const std::string& file) {
+    const std::size_t mark = file.find('_');
+    return mark == std::string::npos ? 0 : std::atoi(file.c_str() + mark + 1);
+}
 
 } // namespace
 
@@ -88,7 +102,7 @@ std::string Road::Drag(const Place& area) {
 
 void Road::FastSave(const LibraryFile& saved) {
     Press("Fast Save: Save material sample to current path");
-    Row(kFiles, saved.file);
+    widgets_.Await("filler", "Last Save: " + saved.file);
     Await(PathOf(saved), [&] { return std::filesystem::exists(PathOf(saved)); });
 }
 
@@ -142,16 +156,25 @@ void Road::AwaitMessage(const std::string& text) {
     Await("the end of the message", [&] { return !widgets_.Find("label", text); });
 }
 
+// Now and then the toolkit tells a row of a list as something without name or place until the list is filled
+// anew, though the window shows it. The rows beside it, whose numbers count on, then tell where it lies.
 Widget Road::Row(const std::string& list, const std::string& row) const {
     std::optional<Widget> found;
+    int looks = 0;
     Await(row + " in the list", [&] {
         found.reset();
         const std::optional<Widget> rows = widgets_.Find(
             [&](const Widget& widget) { return widget.role == "list" && widget.name.starts_with(list); });
         if (!rows) return false;
-        for (const Widget& widget : widgets_.In(*rows))
-            if (widget.name == row && rows->place.Holds(widget.place.MiddleX(), widget.place.MiddleY()))
-                found = widget;
+        ++looks;
+        for (Widget widget : widgets_.In(*rows)) {
+            const bool exact = widget.name == row;
+            if (!exact && (looks < kPatientLooks || StemOf(widget.name) != StemOf(row))) continue;
+            widget.place.y += (NumberOf(row) - NumberOf(widget.name)) * widget.place.height;
+            if (!rows->place.Holds(widget.place.MiddleX(), widget.place.MiddleY())) continue;
+            found = widget;
+            if (exact) break;
+        }
         return found.has_value();
     });
     return *found;

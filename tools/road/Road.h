@@ -37,7 +37,7 @@ public:
     void Paste(const std::string& pictureFile);
     // Drags over an area of the canvas, in pixels of the picture, and returns the new sample's name.
     std::string Drag(const Place& area);
-    // Saves the sample and waits for its row.
+    // Saves the sample and waits until the window tells so.
     void FastSave(const LibraryFile& saved);
     void Select(const LibraryFile& file);
     // Lines a file up for SuperBatch, as the present folder's row is clicked.
