@@ -22,7 +22,8 @@ constexpr const char* kNames = "Materials Images";
 // Something of each: far enough apart that no panel covers all of them.
 constexpr Place kProbes[] = {{40, 40, 1, 1}, {260, 200, 1, 1}, {400, 90, 1, 1}};
 
-// After so many looks a row that is not told is taken to be where its neighbours say.
+// After so many looks a row that is not told is taken to be where its neighbours say, and a click is made
+// again.
 constexpr int kPatientLooks = 30;
 
 // Art_12.jpg is number 12 of Art.
@@ -107,16 +108,17 @@ void Road::FastSave(const LibraryFile& saved) {
 }
 
 void Road::Select(const LibraryFile& file) {
-    desk_.Click(Row(kFiles, file.file).place);
-    widgets_.Await("filler", PathOf(file)); // beneath the lists
+    // A list that is filled anew between the press and the release of a click takes no notice of it.
+    int looks = 0;
+    Await("the choice of " + file.file, [&] {
+        if (looks++ % kPatientLooks == 0) desk_.Click(Row(kFiles, file.file).place);
+        return widgets_.Find("filler", PathOf(file)).has_value(); // beneath the lists
+    });
 }
 
 void Road::LineUp(const LibraryFile& file) {
     EnterFolder(file.folder);
-    desk_.Click(Row(kFiles, file.file).place);
-    // One click does both: it names the material and adds the row.
-    const std::string stem = std::filesystem::path(file.file).stem().string();
-    Await("the name of " + file.file, [&] { return Name() == stem; });
+    Select(file); // adds the row as well
 }
 
 std::string Road::SampleColour() {
