@@ -8,18 +8,42 @@ namespace {
 // Beyond two gigabytes a bitmap is refused before the system has to end the program for want of memory.
 constexpr std::int64_t kMostPixels = std::int64_t{1} << 29;
 
-std::vector<Pixel> MakePixels(int width, int height, Pixel fill) {
+std::size_t PixelCount(int width, int height) {
     if (width < 0 || height < 0) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
     if (std::int64_t{width} * height > kMostPixels) throw RunTimeError(ErrorNumber::OutOfMemory);
-    return WithinMemory([&] {
-        return std::vector<Pixel>(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), fill);
-    });
+    return static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+}
+
+template <class Make>
+void RaisingOutOfMemory(Make make) {
+    try {
+        make();
+    } catch (const std::bad_alloc&) {
+        throw RunTimeError(ErrorNumber::OutOfMemory);
+    } catch (const std::length_error&) {
+        throw RunTimeError(ErrorNumber::OutOfMemory);
+    }
 }
 
 } // namespace
 
-Bitmap::Bitmap(int width, int height, Pixel fill)
-    : width_(width), height_(height), pixels_(MakePixels(width, height, fill)) {}
+Bitmap::Bitmap(int width, int height, Pixel fill) : width_(width), height_(height) {
+    const std::size_t count = PixelCount(width, height);
+    RaisingOutOfMemory([&] { pixels_.assign(count, fill); });
+}
+
+Bitmap Bitmap::FromRows(int width, int height, const FillRow& fill) {
+    Bitmap bitmap;
+    const std::size_t count = PixelCount(width, height);
+    RaisingOutOfMemory([&] { bitmap.pixels_.reserve(count); });
+    bitmap.width_ = width;
+    bitmap.height_ = height;
+    for (int y = 0; y < height; ++y) {
+        bitmap.pixels_.resize(bitmap.pixels_.size() + static_cast<std::size_t>(width));
+        fill(y, bitmap.Row(y));
+    }
+    return bitmap;
+}
 
 const Bitmap& Picture::Pixels() const {
     static const Bitmap kNoPixels;

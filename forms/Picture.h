@@ -9,6 +9,7 @@
 #include <compare>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <vector>
@@ -50,6 +51,10 @@ public:
     Bitmap() = default;
     // Every pixel is `fill`. Raises error 7 when the memory for it can't be had, 5 for a negative size.
     Bitmap(int width, int height, Pixel fill = {});
+    // Each row is made and filled in turn, from the top: a large bitmap goes through the memory once. Raises
+    // the same errors.
+    using FillRow = std::function<void(int y, std::span<Pixel> row)>;
+    static Bitmap FromRows(int width, int height, const FillRow& fill);
 
     int Width() const { return width_; }
     int Height() const { return height_; }

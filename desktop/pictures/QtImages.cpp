@@ -25,15 +25,12 @@ Bitmap CopyOf(const QImage& image) {
     return bitmap;
 }
 
-// In one pass: a grab of a large screen is many megabytes.
 Bitmap CopyWithFourthBytesClear(const QImage& image) {
-    Bitmap bitmap(image.width(), image.height());
-    for (int y = 0; y < image.height(); ++y) {
+    return Bitmap::FromRows(image.width(), image.height(), [&image](int y, std::span<Pixel> row) {
         const auto* from = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        std::transform(from, from + image.width(), bitmap.Row(y).begin(),
+        std::transform(from, from + image.width(), row.begin(),
                        [](QRgb pixel) { return std::bit_cast<Pixel>(pixel & RGB_MASK); });
-    }
-    return bitmap;
+    });
 }
 
 // The toolkit keeps a pixel of these formats as one number 0xAARRGGBB.
