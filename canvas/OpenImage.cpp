@@ -15,6 +15,9 @@ constexpr int kPathMustExistAndOverwritePrompt = 2050;
 
 OpenImage::OpenImage(FrmPicX& form) : form_(form) {
     form_.Command23.Click.Connect([this] { OpenFromDialog(); });
+    form_.OLEDragDrop.Connect([this](const DroppedData& data) {
+        if (!data.files.empty()) OpenDropped(data.files.front());
+    });
 }
 
 void OpenImage::OpenFromDialog() {
@@ -32,9 +35,18 @@ void OpenImage::OpenFromDialog() {
             return;
         }
     }
+    OpenFile(dialog.FileName);
+}
+
+void OpenImage::OpenDropped(const std::string& file) {
+    form_.CDialog1.FileName = file;
+    OpenFile(file);
+}
+
+void OpenImage::OpenFile(const std::string& file) {
     // One decoding serves both holders; a file that can't be read changes neither of them.
     Picture opened;
-    const bool readable = ResumeNext([&] { opened = form_.ports.loader.LoadPicture(dialog.FileName); });
+    const bool readable = ResumeNext([&] { opened = form_.ports.loader.LoadPicture(file); });
     ResumeNext([&] { form_.picSmall.AutoSize = true; });
     if (readable) ResumeNext([&] { form_.picSmall.Picture = opened; });
     if (form_.Check4.Value == kChecked) {

@@ -10,6 +10,9 @@ Paste::Paste(FrmPicX& form) : form_(form) {
     form_.Command5.Click.Connect([this] { PasteFromClipboard(); });
     form_.Command8.Click.Connect([this] { form_.ports.clipboard.Clear(); });
     form_.Command12.Click.Connect([this] { CopyMaterialImage(); });
+    form_.OLEDragDrop.Connect([this](const DroppedData& data) {
+        if (!data.bitmap.IsEmpty()) PasteDropped(data.bitmap);
+    });
 }
 
 void Paste::PasteFromClipboard() {
@@ -45,6 +48,13 @@ void Paste::PasteFromClipboard() {
         TakeBitmap(form_.Picture3);
     }
     ResumeNext([this] { SizeFXBits(form_); });
+}
+
+// By way of the clipboard, where the start state of the effects is read again from.
+void Paste::PasteDropped(const Picture& bitmap) {
+    form_.ports.clipboard.Clear();
+    ResumeNext([&] { form_.ports.clipboard.SetData(bitmap); });
+    form_.Command5.Click();
 }
 
 void Paste::PasteIntoGradient() {

@@ -1,5 +1,5 @@
 // The clipboard's way in and out: Command5 brings its bitmap to the canvas, Command8 clears it, Command12
-// puts the Material Image on it.
+// puts the Material Image on it. A bitmap that is dropped on the canvas goes the same way in.
 #pragma once
 
 #include "forms/PictureBox.h"
@@ -14,6 +14,7 @@ public:
 
 private:
     void PasteFromClipboard();
+    void PasteDropped(const Picture& bitmap);
     void PasteIntoGradient();
     void CopyMaterialImage();
     bool ClipboardHasBitmap() const;

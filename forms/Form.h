@@ -28,6 +28,12 @@ constexpr int kScalePixels = 3;
 
 void RefuseUnknownState(const int& state); // raises error 380
 
+// What the user drags over from another program and lets go: files by their full paths, or a bitmap.
+struct DroppedData {
+    std::vector<std::string> files;
+    Picture bitmap;
+};
+
 class Form : public Watched {
 public:
     Form(std::string name, Screen& screen, ScreenSize clientSize);
@@ -57,6 +63,8 @@ public:
     // A panel that is dragged is over the form, or was let go there; x and y in the form's scale.
     Event<Control&, float, float> DragOver;
     Event<Control&, float, float> DragDrop;
+    // Something from another program was let go over the form.
+    Event<const DroppedData&> OLEDragDrop;
 
     // The persistent image, of the size of the client area.
     mirelle::Picture Image() const { return surface_.Image(); }

@@ -50,6 +50,7 @@ public:
     Event<> Change; // a picture was assigned
 
     mirelle::Picture Image() const { return surface_.Image(); }
+    bool IsBlank() const { return surface_.IsBlank(); } // shows its background alone
     float ScaleWidth() const { return MeasureOf(surface_.Width(), units_.inner); }
     float ScaleHeight() const { return MeasureOf(surface_.Height(), units_.inner); }
     ScaleUnit ScaleMode() const { return units_.inner; }

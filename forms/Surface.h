@@ -18,6 +18,8 @@ public:
     int Width() const { return width_; }
     int Height() const { return height_; }
     const Picture& Assigned() const { return picture_; }
+    // Nothing but the background: no picture assigned, nothing painted.
+    bool IsBlank() const { return picture_.IsEmpty() && !painted_; }
 
     // What was painted stays from the top-left corner; new area shows the background. Negative sizes count as
     // 0.

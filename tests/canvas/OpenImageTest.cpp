@@ -57,6 +57,25 @@ TEST_F(OpenImageTest, FillsMaterialImageAndCanvasFromOneDecoding) {
     EXPECT_TRUE(program.desktop.dialogs.messages.empty());
 }
 
+TEST_F(OpenImageTest, ADroppedFileComesInAsIfTheDialogHadNamedIt) {
+    form.OLEDragDrop({{"D:\\wall.jpg", "D:\\other.jpg"}, {}});
+    EXPECT_TRUE(program.desktop.dialogs.dialogs.empty());
+    EXPECT_EQ(form.CDialog1.FileName, "D:\\wall.jpg");
+    EXPECT_TRUE(form.picSmall.Picture().SharesPixelsWith(wall));
+    EXPECT_TRUE(form.PicImage.Picture().SharesPixelsWith(wall));
+    form.PicImage.Picture = former;
+    form.Check4.Value = kUnchecked;
+    form.OLEDragDrop({{"D:\\wall.jpg"}, {}});
+    EXPECT_TRUE(form.PicImage.Picture().SharesPixelsWith(former));
+}
+
+TEST_F(OpenImageTest, ADroppedFileThatIsNoPictureChangesNothing) {
+    form.OLEDragDrop({{"D:\\none.jpg"}, {}});
+    EXPECT_TRUE(form.picSmall.Picture().SharesPixelsWith(former));
+    EXPECT_TRUE(form.PicImage.Picture().SharesPixelsWith(former));
+    EXPECT_TRUE(program.desktop.dialogs.messages.empty());
+}
+
 TEST_F(OpenImageTest, LeavesEveryOtherHolderAndNameAlone) {
     form.Image1.Picture = former;
     form.CurrentImagePath = "C:\\old.jpg";

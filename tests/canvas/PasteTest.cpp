@@ -168,6 +168,24 @@ TEST_F(PasteTest, AClipboardThatLosesItsBitmapHalfwayLeavesTheRestAsItWas) {
     EXPECT_TRUE(form.Pic1.Picture().SharesPixelsWith(former));
 }
 
+TEST_F(PasteTest, ADroppedBitmapComesInAsThePasteButtonWouldBringIt) {
+    PutOnClipboard(former);
+    form.OLEDragDrop({{}, grab});
+    EXPECT_TRUE(form.PicImage.Picture().SharesPixelsWith(grab));
+    EXPECT_TRUE(form.Picture3.Picture().SharesPixelsWith(grab));
+    EXPECT_TRUE(form.picSmall.Picture().SharesPixelsWith(grab));
+    EXPECT_TRUE(form.ClipboardIsSource);
+    // The start state is read again from the clipboard: it is to find the dropped bitmap there.
+    EXPECT_TRUE(program.desktop.clipboard.bitmap.SharesPixelsWith(grab));
+}
+
+TEST_F(PasteTest, ADropOfNothingSaysNothing) {
+    form.PicImage.Picture = former;
+    form.OLEDragDrop({});
+    EXPECT_TRUE(program.desktop.dialogs.messages.empty());
+    EXPECT_TRUE(form.PicImage.Picture().SharesPixelsWith(former));
+}
+
 TEST_F(PasteTest, Command8ClearsTheClipboard) {
     PutOnClipboard(grab);
     form.Command8.UserClick();
