@@ -6,14 +6,14 @@
 #ifdef MIRELLE_X11
 #include "desktop/x11/X11Console.h"
 #include "desktop/x11/X11Keyboard.h"
-#else
+#endif
 #include "desktop/system/NoConsole.h"
 #include "desktop/system/WindowKeyboard.h"
-#endif
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
 
 namespace mirelle {
 namespace {
@@ -22,20 +22,28 @@ std::string DumpFile() {
     return QFile::encodeName(QDir::temp().filePath("komp.txt")).toStdString();
 }
 
+// Whether the program's own windows are X11's. Where they are not, a display that can be reached all the same
+// is another one than the user looks at.
+bool IsOnX11() {
+#ifdef MIRELLE_X11
+    return QGuiApplication::platformName() == "xcb";
+#else
+    return false;
+#endif
+}
+
 std::unique_ptr<ConsoleShell> MakeConsole() {
 #ifdef MIRELLE_X11
-    return std::make_unique<X11Console>();
-#else
-    return std::make_unique<NoConsole>();
+    if (IsOnX11()) return std::make_unique<X11Console>();
 #endif
+    return std::make_unique<NoConsole>();
 }
 
 std::unique_ptr<Keyboard> MakeKeyboard() {
 #ifdef MIRELLE_X11
-    return std::make_unique<X11Keyboard>();
-#else
-    return std::make_unique<WindowKeyboard>(qApp);
+    if (IsOnX11()) return std::make_unique<X11Keyboard>();
 #endif
+    return std::make_unique<WindowKeyboard>(qApp);
 }
 
 } // namespace

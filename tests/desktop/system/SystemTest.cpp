@@ -1,13 +1,16 @@
-// Filters of open dialogs, the program's folder, the clock and the pump.
+// Filters of open dialogs, the program's folder, the clock and the pump, and which ports a platform gets.
 #include "desktop/system/FileFilter.h"
 #include "desktop/system/HomeFolder.h"
 #include "desktop/system/QtEventPump.h"
+#include "desktop/system/RealDesktop.h"
 #include "desktop/system/WindowKeyboard.h"
 
 #include <gmock/gmock.h>
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QGuiApplication>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTime>
 #include <QTimer>
@@ -28,6 +31,15 @@ TEST(HomeFolder, IsTheOneNamedOrTheProgramsOwn) {
     EXPECT_EQ(HomeFolder({"mirelle", "--home", "/tmp/there/"}), "/tmp/there");
     EXPECT_EQ(HomeFolder({"mirelle"}), QCoreApplication::applicationDirPath().toStdString());
     EXPECT_EQ(HomeFolder({"mirelle", "--home"}), QCoreApplication::applicationDirPath().toStdString());
+}
+
+TEST(HomeFolder, OfAProgramStartedByALinkIsTheLinksFolder) {
+    const QTemporaryDir folder;
+    const QString link = folder.filePath("mirelle");
+    ASSERT_TRUE(QFile::link(QCoreApplication::applicationFilePath(), link));
+    EXPECT_EQ(HomeFolder({link}), folder.path().toStdString());
+    EXPECT_EQ(HomeFolder({QCoreApplication::applicationFilePath()}),
+              QCoreApplication::applicationDirPath().toStdString());
 }
 
 TEST(EventPump, TellsTheSecondsSinceMidnight) {
@@ -71,6 +83,18 @@ TEST(WindowKeyboard, TellsEscapeOnce) {
     QTest::keyClick(&widget, Qt::Key_Escape);
     EXPECT_TRUE(keyboard.EscapeWentDown());
     EXPECT_FALSE(keyboard.EscapeWentDown());
+}
+
+// Another display that could be reached all the same is not the one that the user looks at.
+TEST(RealDesktop, WithoutWindowsOnXHasNoConsoleAndHearsEscapeInItsOwnWindows) {
+    if (QGuiApplication::platformName() == "xcb") GTEST_SKIP() << "windows on X";
+    const QTemporaryDir home;
+    RealDesktop desktop(home.path().toStdString());
+    EXPECT_THROW(desktop.ThePorts().console.AppActivate("Ruby Console"), RunTimeError);
+    QWidget widget;
+    QTest::keyClick(&widget, Qt::Key_Escape);
+    EXPECT_TRUE(desktop.ThePorts().keyboard.EscapeWentDown());
+    EXPECT_FALSE(desktop.ThePorts().keyboard.EscapeWentDown());
 }
 
 } // namespace
