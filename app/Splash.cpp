@@ -27,6 +27,8 @@ Splash::Splash(Ports ports) : Form("frmSplasholaSUNDIAL", ports.screen, kSplashS
     Timer1.Timer.Connect([this] { Tick(); });
     Click.Connect([this] { ToggleWait(); });
     Label1.Click.Connect([this] { ToggleWait(); });
+    // Closed before the main window is there, nothing is left to run.
+    QueryUnload.Connect([this] { ports_.process.End(); });
 }
 
 void Splash::Load() {

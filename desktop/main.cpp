@@ -1,9 +1,11 @@
-// The program: the real desktop, the form with its handlers, and the window over it.
+// The program: the real desktop, the forms with their handlers, and the windows over them.
 #include "app/Sampler.h"
 #include "desktop/look/Look.h"
 #include "desktop/system/HomeFolder.h"
 #include "desktop/system/RealDesktop.h"
 #include "desktop/window/MainWindow.h"
+#include "desktop/window/ManualWindow.h"
+#include "desktop/window/SplashWindow.h"
 
 #include <QApplication>
 
@@ -16,14 +18,23 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(
         QString("%1.%2.%3").arg(mirelle::App::Major).arg(mirelle::App::Minor).arg(mirelle::App::Revision));
 
+    // The windows say when the program ends; between the splash and the main window none may be open.
+    QApplication::setQuitOnLastWindowClosed(false);
+
     mirelle::RealDesktop desktop(mirelle::HomeFolder(application.arguments()));
     mirelle::Sampler sampler(desktop.ThePorts());
+    mirelle::SplashWindow splash(sampler.splash, desktop.dialogs);
+    sampler.splash.Load();
+    QCoreApplication::processEvents(); // the splash is seen while the main window is made
+
     mirelle::MainWindow window(sampler.form);
+    mirelle::ManualWindow manual(sampler.manual, sampler.form, window);
     desktop.dialogs.SetParent(&window);
     desktop.screen.SetWindow(&window);
     QObject::connect(&desktop.pump, &mirelle::QtEventPump::Pausing, &window, &mirelle::MainWindow::ShowPause);
-
-    sampler.form.Load();
-    window.Start();
+    sampler.splash.Finished.Connect([&] {
+        sampler.form.Load();
+        window.Start();
+    });
     return QApplication::exec();
 }

@@ -16,10 +16,24 @@ RowsView::RowsView(QWidget* parent) : QListView(parent) {
     setUniformItemSizes(true);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
-    setVerticalScrollMode(ScrollPerPixel);
+    setVerticalScrollMode(ScrollPerItem);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextElideMode(Qt::ElideMiddle);
     setDragEnabled(false);
+}
+
+void RowsView::updateGeometries() {
+    const int row = sizeHintForRow(0);
+    const int room = height() - 2 * frameWidth();
+    const QMargins rest(0, 0, 0, row > 0 && room > row ? room % row : 0);
+    if (viewportMargins() != rest) setViewportMargins(rest);
+    QListView::updateGeometries();
+}
+
+// The current row stays in sight.
+void RowsView::resizeEvent(QResizeEvent* event) {
+    QListView::resizeEvent(event);
+    if (currentIndex().isValid()) scrollTo(currentIndex());
 }
 
 void RowsView::ShowRow(int row) {

@@ -1,6 +1,6 @@
 // A list view that chooses as the program's lists do: a click on a row chooses it, also when it is the
 // current one already, and so does moving to another row with the keyboard. What the program does to the list
-// shows here without choosing anything.
+// shows here without choosing anything. Rows are shown whole: what is left of the height stays empty.
 #pragma once
 
 #include <QListView>
@@ -25,6 +25,8 @@ signals:
 
 protected:
     bool viewportEvent(QEvent* event) override;
+    void updateGeometries() override;
+    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;

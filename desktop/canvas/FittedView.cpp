@@ -30,7 +30,7 @@ FittedView* FittedView::Of(PictureBox& box, QWidget* parent) {
     return new FittedView(
         box,
         [&box] {
-            return Shown{box.Image(), {}};
+            return Shown{box.IsBlank() ? Picture() : box.Image(), {}};
         },
         parent);
 }

@@ -39,6 +39,7 @@ public:
     QSize sizeHint() const override { return hint_; }
     void SetSizeHint(QSize hint) { hint_ = hint; }
 
+    // Nothing of a box that is blank.
     static FittedView* Of(PictureBox& box, QWidget* parent);
     // In the proportions that the program gives the control.
     static FittedView* Of(ImageControl& image, QWidget* parent);

@@ -57,6 +57,7 @@ void MaterialView::Follow() {
     shown_ = picture;
     place_ = place;
     visible_ = form_.picSmall.Visible;
+    blank_ = form_.picSmall.IsBlank() && form_.picSmall.BackColor == kGroundOfTheLook;
     update();
 }
 
@@ -87,7 +88,7 @@ void MaterialView::paintEvent(QPaintEvent* event) {
     UseDevicePixels(painter);
     for (const QRect& exposed : event->region()) {
         const QRect pixels = DevicePixelsTouched(*this, exposed);
-        const QRect seen = visible_ ? pixels & material : QRect();
+        const QRect seen = visible_ && !blank_ ? pixels & material : QRect();
         if (seen != pixels) painter.fillRect(pixels, GroundOf(form_.PicScroll));
         if (!seen.isEmpty()) painter.drawImage(seen.topLeft(), image, seen.translated(-place_));
     }

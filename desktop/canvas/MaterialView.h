@@ -41,6 +41,7 @@ private:
     QPoint place_; // of the material's first pixel, in device pixels
     int usualHeight_ = 0;
     bool visible_ = true;
+    bool blank_ = false; // nothing is there but the ground that all boxes start with
     bool pressed_ = false;
 };
 

@@ -112,6 +112,9 @@ void SamplingCanvas::mousePressEvent(QMouseEvent* event) {
 }
 
 void SamplingCanvas::mouseMoveEvent(QMouseEvent* event) {
+    // The system tells of idle moves beside the window when panels come and go under the pointer.
+    if (!pressed_ && event->buttons() == Qt::NoButton && !rect().contains(event->position().toPoint()))
+        return;
     lastPixel_ = DevicePixelAt(*this, *event);
     lastShift_ = ShiftNumber(event->modifiers());
     if (pressed_ && !(event->buttons() & Qt::LeftButton)) return Release(1);

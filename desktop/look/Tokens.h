@@ -66,6 +66,8 @@ inline constexpr int kSpaceLarge = 12;
 // Type, in pixels.
 inline constexpr int kTypeSize = 13;
 inline constexpr int kTypeSizeSmall = 11;
+inline constexpr int kTypeSizeHeading = 16; // on the small windows beside the main one
+inline constexpr int kTypeSizeTitle = 30;   // on the splash
 
 // Shapes.
 inline constexpr int kCardRadius = 6;

@@ -19,7 +19,7 @@ namespace {
 constexpr int kPreviewHeight = 56;
 constexpr int kPreviewMost = 120;
 constexpr int kKindWidth = 84;
-constexpr int kListRows = 2; // at least
+constexpr int kListHeight = 2 * look::kRowHeight + 4; // at least: two rows in their frame
 
 // What else stands in the row stays at its place when the widget is hidden.
 void KeepPlace(QWidget& widget) {
@@ -71,17 +71,15 @@ QLayout* FileSection::DriveRow(Parts& parts) {
 QLayout* FileSection::Lists(Parts& parts) {
     FrmPicX& form = parts.Form();
     auto* folders = new RowsView(this);
-    folders->setMinimumHeight(look::kRowHeight * kListRows);
+    folders->setMinimumHeight(kListHeight);
     folders->setItemDelegate(new FolderRows(folders));
     parts.TheBinder().Folders(form.Dir5, *folders);
     auto* files = new RowsView(this);
-    files->setMinimumHeight(look::kRowHeight * kListRows);
+    files->setMinimumHeight(kListHeight);
     parts.TheBinder().Files(form.File5, *files);
-    FittedView* preview = parts.Preview(form.Imagex, {kPreviewHeight, kPreviewHeight});
-    preview->setMaximumHeight(kPreviewMost); // and less where the lists need the room
     auto* left = Column();
     left->addWidget(folders, 1);
-    left->addWidget(preview);
+    left->addWidget(PreviewRoom(parts));
     auto* lists = Row();
     lists->addLayout(left, 4);
     lists->addWidget(files, 5);
@@ -92,16 +90,31 @@ QLayout* FileSection::Lists(Parts& parts) {
     return whole;
 }
 
+// Without a picture the folders take its room.
+QWidget* FileSection::PreviewRoom(Parts& parts) {
+    ImageControl& image = parts.Form().Imagex;
+    auto* room = new QWidget(this);
+    Parts inside(parts.TheBinder(), *room);
+    FittedView* preview = inside.Preview(image, {kPreviewHeight, kPreviewHeight});
+    preview->setMaximumHeight(kPreviewMost); // and less where the lists need the room
+    auto* whole = new QVBoxLayout(room);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(preview);
+    ShowWhenChanged(image, room, [&image, room] { room->setVisible(!image.Picture().IsEmpty()); });
+    return room;
+}
+
 QLayout* FileSection::KindRow(Parts& parts) {
     FrmPicX& form = parts.Form();
     QComboBox* kind = parts.EditableChoice(form.Combo5);
     kind->setFixedWidth(kKindWidth);
     look::ElidedLabel* count = parts.Note(form.Label8(46));
+    look::IconButton* fileTypes = parts.Button(form.Command2);
     look::IconButton* fullScreen = parts.Button(form.cmdFullScreen);
     FollowWindowState(form, fullScreen);
     KeepPlace(*kind);
     KeepPlace(*count);
-    auto* row = Row({kind, count, parts.Button(form.Command2), fullScreen});
+    auto* row = Row({kind, count, fileTypes, fullScreen});
     row->setStretch(1, 1);
     return row;
 }

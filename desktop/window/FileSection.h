@@ -16,6 +16,7 @@ public:
 private:
     QLayout* DriveRow(Parts& parts);
     QLayout* Lists(Parts& parts);
+    QWidget* PreviewRoom(Parts& parts);
     QLayout* KindRow(Parts& parts);
 };
 

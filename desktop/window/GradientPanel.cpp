@@ -80,8 +80,8 @@ QWidget* GradientPanel::FormGradient(Parts& parts) {
     column->setSpacing(look::kSpaceSmall);
     auto* head = Row({caption});
     head->addStretch(1);
-    head->addWidget(inside.Words(tr("Horizontal")));
     head->addWidget(inside.Check(form.ckFormDirection));
+    head->addWidget(inside.Words(tr("Horizontal")));
     column->addLayout(head);
     auto* grid = new QGridLayout;
     grid->setSpacing(look::kSpaceSmall);

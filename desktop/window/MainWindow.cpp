@@ -4,6 +4,8 @@
 #include "desktop/binding/RowsView.h"
 #include "desktop/binding/Updater.h"
 #include "desktop/canvas/SamplingCanvas.h"
+#include "desktop/window/AccessibleRoles.h"
+#include "desktop/window/CanvasDrops.h"
 #include "desktop/window/CanvasPanel.h"
 #include "desktop/window/FloatingPanel.h"
 #include "desktop/window/GradientPanel.h"
@@ -16,7 +18,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QScreen>
 
 #include <algorithm>
 #include <utility>
@@ -32,23 +33,18 @@ int StateOf(const QWidget& window) {
     return window.isMaximized() || window.isFullScreen() ? kWindowMaximized : kWindowNormal;
 }
 
-QSize StartSize(const QWidget& window) {
-    const QScreen* screen = window.screen();
-    constexpr QSize kFrame{2, 32}; // about what a window's frame takes
-    return screen ? kUsualWindow.boundedTo(screen->availableSize() - kFrame) : kUsualWindow;
-}
-
 } // namespace
 
 MainWindow::MainWindow(FrmPicX& form)
-    : form_(form), binder_(form), activations_(*this), folders_(form),
-      canvas_(new SamplingCanvas(form, this)) {
+    : form_(form), binder_(form), activations_(*this), folders_(form), bounds_(*this),
+      canvas_(MakeCanvas(form)) {
     setObjectName("FrmPicX");
     for (Shape* shape : {&form.Shape1, &form.Shape2, &form.Shape3})
         binder_.ShownElsewhere(*shape);
     BuildPanels();
     new Shortcuts(binder_, *this);
-    resize(StartSize(*this));
+    new CanvasDrops(form, *canvas_);
+    resize(WindowBounds::StartSize(*this, kUsualWindow));
     setMinimumSize(kLeastWindow.boundedTo(size()));
 
     ShowWhenChanged(form, this, [this] {
@@ -57,6 +53,10 @@ MainWindow::MainWindow(FrmPicX& form)
     });
     form.Watch([self = QPointer<MainWindow>(this)] {
         if (self) self->FollowFormAtOnce();
+    });
+    connect(&bounds_, &WindowBounds::ScreenChanged, this, [this] {
+        PlaceLater();
+        TellFormLater();
     });
     connect(&activations_, &Activations::Activated, this,
             [this] { binder_.Run([this] { form_.Activate(); }); });
@@ -67,6 +67,12 @@ MainWindow::~MainWindow() {
     // Panels hide when they go; nothing is to be placed then.
     for (Panel* panel : findChildren<Panel*>())
         panel->disconnect(this);
+}
+
+// The first of the window's widgets: from here on each is asked for its role as soon as it has a name.
+SamplingCanvas* MainWindow::MakeCanvas(FrmPicX& form) {
+    InstallAccessibleRoles();
+    return new SamplingCanvas(form, this);
 }
 
 void MainWindow::BuildPanels() {
@@ -88,6 +94,7 @@ void MainWindow::Start() {
     activations_.NoteFirst();
     canvas_->setFocus(); // keys are the program's until a field is chosen
     show();
+    bounds_.FollowScreens();
     TellForm();
     form_.Visible = true;
     binder_.Run([this] { form_.Activate(); });
@@ -117,6 +124,7 @@ void MainWindow::PlaceAll() {
     material_->setGeometry(places.material);
     strip->setGeometry(places.strip);
     superBatch_->setGeometry(places.superBatch);
+    material_->CoverUpperPart(!superBatch_->isHidden());
     superBatch_->raise();
     floating_->raise();
     canvas_->SetFreeArea(places.free);

@@ -5,6 +5,7 @@
 #include "desktop/binding/Binder.h"
 #include "desktop/window/Activations.h"
 #include "desktop/window/FolderWatch.h"
+#include "desktop/window/WindowBounds.h"
 
 #include <QWidget>
 
@@ -42,6 +43,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    SamplingCanvas* MakeCanvas(FrmPicX& form);
     void BuildPanels();
     void PlaceAll();
     void PlaceLater();
@@ -53,6 +55,7 @@ private:
     Binder binder_;
     Activations activations_;
     FolderWatch folders_;
+    WindowBounds bounds_;
     SamplingCanvas* canvas_;
     MaterialPanel* material_ = nullptr;
     SendPanel* sends_ = nullptr;

@@ -18,6 +18,9 @@ constexpr int kFilesShare = 1;
 
 MaterialPanel::MaterialPanel(Binder& binder, QWidget* parent) : Panel(parent) {
     material_ = new MaterialSection(binder, this);
+    QSizePolicy policy = material_->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    material_->setSizePolicy(policy);
     QWidget* const sections[] = {material_, new NamePanel(binder, this), new PalettePanel(binder, this),
                                  new LibraryPanel(binder, this)};
     Contents().setSpacing(look::kSpace);
@@ -30,7 +33,11 @@ MaterialPanel::MaterialPanel(Binder& binder, QWidget* parent) : Panel(parent) {
 }
 
 int MaterialPanel::UpperPart() const {
-    return material_->geometry().bottom() + 1 + look::kSpace;
+    return material_->geometry().bottom() + 1 + look::kSpaceSmall;
+}
+
+void MaterialPanel::CoverUpperPart(bool covered) {
+    if (material_->isHidden() != covered) material_->setVisible(!covered);
 }
 
 } // namespace mirelle

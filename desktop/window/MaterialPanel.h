@@ -14,6 +14,8 @@ public:
 
     // How far down the SuperBatch panel may lie over this one: down to where the library begins.
     int UpperPart() const;
+    // What another panel lies over is not to be come to by the keyboard either. Its place stays.
+    void CoverUpperPart(bool covered);
 
 private:
     QWidget* material_;

@@ -20,6 +20,9 @@ constexpr int kChartHeight = 64; // at least
 constexpr int kPreviewHeight = 24;
 constexpr int kSlotsInAColumn = 5;
 constexpr int kSlotHeight = 22;
+constexpr int kSlotSpacing = 3;
+constexpr int kLayerWidth = 28;
+constexpr QMargins kSlotText(-look::kSpaceSmall, 0, -look::kSpaceSmall, 0); // eleven characters have to fit
 
 } // namespace
 
@@ -72,7 +75,7 @@ QLayout* PalettePanel::ChartAndPreview(Parts& parts) {
 QLayout* PalettePanel::Slots(Parts& parts) {
     FrmPicX& form = parts.Form();
     auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(look::kSpaceSmall);
+    grid->setHorizontalSpacing(kSlotSpacing);
     grid->setVerticalSpacing(1);
     constexpr int kColumns = 4; // button, colour, layer, and the gap
     for (int slot = 0; slot < form.Text2x.Count(); ++slot) {
@@ -85,16 +88,18 @@ QLayout* PalettePanel::Slots(Parts& parts) {
         QLineEdit* layer = parts.Field(form.TextLayer(slot));
         layer->setAccessibleName(tr("Layer of colour %1").arg(slot + 1));
         layer->setFixedHeight(kSlotHeight);
-        for (QLineEdit* field : {colour, layer})
+        for (QLineEdit* field : {colour, layer}) {
             look::SetTextRank(*field, look::TextRank::Note);
-        layer->setMinimumWidth(look::kIcon);
+            field->setTextMargins(kSlotText);
+        }
+        layer->setMinimumWidth(kLayerWidth);
         grid->addWidget(button, row, column);
         grid->addWidget(colour, row, column + 1);
         grid->addWidget(layer, row, column + 2);
         grid->setColumnStretch(column + 1, 5);
         grid->setColumnStretch(column + 2, 1);
     }
-    grid->setColumnMinimumWidth(kColumns - 1, look::kSpaceSmall);
+    grid->setColumnMinimumWidth(kColumns - 1, 2 * look::kEdge);
     return grid;
 }
 

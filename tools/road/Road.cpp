@@ -49,7 +49,7 @@ std::string Road::PathOf(const LibraryFile& file) const {
 
 std::string Road::Name() const {
     // The panel's first field is the one in the list of names.
-    const Widget panel = widgets_.Await("filler", kNames);
+    const Widget panel = widgets_.Await("panel", kNames);
     for (const Widget& list : widgets_.In(panel)) {
         if (list.role != "combo box") continue;
         for (const Widget& part : widgets_.In(list))
@@ -77,7 +77,7 @@ void Road::Paste(const std::string& pictureFile) {
     PutOnClipboard(pictureFile);
     Press("Paste from clipboard");
     const QImage picture(QString::fromStdString(pictureFile));
-    const Place canvas = widgets_.Await("filler", "Sampling Canvas").place;
+    const Place canvas = widgets_.Await("canvas", "Sampling Canvas").place;
     Await("the pasted picture", [&] {
         return std::ranges::all_of(kProbes, [&](const Place& probe) {
             return desk_.ColourAt(canvas.x + probe.x, canvas.y + probe.y) ==
@@ -88,7 +88,7 @@ void Road::Paste(const std::string& pictureFile) {
 
 std::string Road::Drag(const Place& area) {
     const std::string before = Name();
-    const Place canvas = widgets_.Await("filler", "Sampling Canvas").place;
+    const Place canvas = widgets_.Await("canvas", "Sampling Canvas").place;
     const int left = canvas.x + area.x;
     const int top = canvas.y + area.y;
     desk_.MovePointer(left, top);
@@ -103,7 +103,7 @@ std::string Road::Drag(const Place& area) {
 
 void Road::FastSave(const LibraryFile& saved) {
     Press("Fast Save: Save material sample to current path");
-    widgets_.Await("filler", "Last Save: " + saved.file);
+    widgets_.Await("label", "Last Save: " + saved.file);
     Await(PathOf(saved), [&] { return std::filesystem::exists(PathOf(saved)); });
 }
 
@@ -112,7 +112,7 @@ void Road::Select(const LibraryFile& file) {
     int looks = 0;
     Await("the choice of " + file.file, [&] {
         if (looks++ % kPatientLooks == 0) desk_.Click(Row(kFiles, file.file).place);
-        return widgets_.Find("filler", PathOf(file)).has_value(); // beneath the lists
+        return widgets_.Find("label", PathOf(file)).has_value(); // beneath the lists
     });
 }
 
@@ -123,7 +123,7 @@ void Road::LineUp(const LibraryFile& file) {
 
 std::string Road::SampleColour() {
     Press("Show Pixel Sampler frame");
-    desk_.Click(widgets_.Await("filler", kChart).place);
+    desk_.Click(widgets_.Await("graphic", kChart).place);
     const Widget slot = widgets_.Await("text", kSlot);
     Await("the sampled colour", [&] { return !widgets_.TextOf(slot).empty(); });
     return widgets_.TextOf(slot);
@@ -146,7 +146,7 @@ void Road::SendColour() {
 }
 
 void Road::ToggleSuperBatch() {
-    const auto shown = [&] { return widgets_.Find("filler", "SuperBatch Send").has_value(); };
+    const auto shown = [&] { return widgets_.Find("panel", "SuperBatch Send").has_value(); };
     const bool before = shown();
     Press("Show/Hide SuperBatch Image Send Frame");
     Await("the SuperBatch panel's change", [&] { return shown() != before; });

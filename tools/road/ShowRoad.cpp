@@ -61,7 +61,7 @@ private:
         road_.LineUp({"Gradient", "Gradient_1.jpg"});
         road_.SendList();
         AwaitMaterials(5);
-        road_.Window().Await("filler", "Sent: 2");
+        road_.Window().Await("label", "Sent: 2");
         Shoot("6-list-sent");
         road_.ToggleSuperBatch();
         road_.SampleColour();

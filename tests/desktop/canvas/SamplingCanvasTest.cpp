@@ -8,6 +8,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QMouseEvent>
+
 namespace mirelle::test {
 namespace {
 
@@ -196,6 +198,15 @@ TEST_F(SamplingCanvasTest, ShowsThePointerThatTheFormAsksFor) {
     form.MousePointer = kPointerDefault;
     QCoreApplication::processEvents();
     EXPECT_EQ(canvas.cursor().shape(), Qt::CrossCursor);
+}
+
+TEST_F(SamplingCanvasTest, AnIdleMoveThatIsToldFromBesideTheWindowCountsForNothing) {
+    form.Caption = "before";
+    QMouseEvent beside(QEvent::MouseMove, {-1, -1}, {-1, -1}, {-1, -1}, Qt::NoButton, Qt::NoButton, {});
+    QCoreApplication::sendEvent(&canvas, &beside);
+    EXPECT_EQ(form.Caption(), "before");
+    mouse.Move({30, 20});
+    EXPECT_NE(form.Caption(), "before");
 }
 
 } // namespace

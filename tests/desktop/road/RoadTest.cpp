@@ -142,7 +142,7 @@ TEST_P(WholeRoad, LeavesWhatWasSentInTheModelLineByLine) {
         sent({"Bio", "Bio_1.jpg"});
         sent({"Fractal", "Fractal_2.jpg"});
         console.AwaitAnswer(kMaterials, ListOf(materials));
-        road.Window().Await("filler", "Sent: 2");
+        road.Window().Await("label", "Sent: 2");
 
         road.ToggleSuperBatch();
         const std::string colour = road.SampleColour();

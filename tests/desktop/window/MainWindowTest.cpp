@@ -11,6 +11,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QListView>
 
 namespace mirelle::test {
 namespace {
@@ -170,6 +171,49 @@ TEST(EffectNames, HaveInitials) {
     EXPECT_EQ(InitialsOf("Glow"), "Gl");
     EXPECT_EQ(InitialsOf("RGB>BGR"), "BGR");
     EXPECT_EQ(InitialsOf("Windswept Surreal Smudger (Horizontal): This FX is retained"), "WSS");
+}
+
+TEST(MainWindow, ABlankMaterialImageLeavesTheGroundOfTheLook) {
+    OpenedWindow opened;
+    opened.form.picSmall.Picture = Picture();
+    opened.Settle();
+    QWidget* view = opened.Find("picSmall");
+    EXPECT_EQ(Painted(*view).pixelColor(5, 5), QColor(0x40, 0x40, 0x40));
+    opened.form.picSmall.Paint(); // a painted box shows what it holds, be it of the same grey
+    opened.form.picSmall.Refresh();
+    opened.Settle();
+    EXPECT_EQ(Painted(*view).pixelColor(5, 5), QColor(0xC0, 0xC0, 0xC0));
+}
+
+TEST(MainWindow, ListsShowWholeRows) {
+    OpenedWindow opened;
+    for (int number = 4; number < 60; ++number)
+        opened.program.files.AddFile("C:\\Mirelle\\Support\\Materials\\Art_" + std::to_string(number) +
+                                     ".jpg");
+    opened.form.cmdRefreshFile.UserClick();
+    for (const int height : {680, 700, 733, 800}) {
+        opened.window->resize(1100, height);
+        opened.Settle();
+        for (const char* name : {"File5", "Dir5"}) {
+            const auto* list = qobject_cast<QListView*>(opened.Find(name));
+            EXPECT_EQ(list->viewport()->height() % list->sizeHintForRow(0), 0) << name << " at " << height;
+            const QRect current = list->visualRect(list->currentIndex());
+            EXPECT_TRUE(list->viewport()->rect().contains(current)) << name << " at " << height;
+        }
+    }
+}
+
+TEST(MainWindow, TheSuperBatchPanelKeepsTheKeyboardFromWhatItCovers) {
+    OpenedWindow opened;
+    EXPECT_TRUE(opened.Find("ckKeep")->isVisible());
+    const QRect names = opened.Find("Frame3")->geometry();
+    opened.form.Command14.UserClick();
+    opened.Settle();
+    EXPECT_FALSE(opened.Find("ckKeep")->isVisible());
+    EXPECT_EQ(opened.Find("Frame3")->geometry(), names) << "what is not covered stays at its place";
+    opened.form.Command14.UserClick();
+    opened.Settle();
+    EXPECT_TRUE(opened.Find("ckKeep")->isVisible());
 }
 
 } // namespace

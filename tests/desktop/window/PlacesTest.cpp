@@ -1,13 +1,9 @@
 // Panels at their places, on any screen, with nothing cut off.
 #include "desktop/window/PanelPlaces.h"
+#include "tests/desktop/Legible.h"
 #include "tests/desktop/window/OpenedWindow.h"
 
 #include <gmock/gmock.h>
-
-#include <QAbstractButton>
-#include <QAbstractScrollArea>
-#include <QComboBox>
-#include <QLineEdit>
 
 namespace mirelle::test {
 namespace {
@@ -48,42 +44,9 @@ TEST_P(PlacesOnScreen, HiddenPanelsLeaveTheirRoomToTheStripAndTheCanvas) {
     EXPECT_GT(places.strip.right(), GetParam().width() - 20);
 }
 
-// The shown controls that lie partly outside of what they lie in, that have less room than they need, or that
-// lie over each other.
-std::vector<std::string> CutOff(const QWidget& window) {
-    std::vector<std::string> cut;
-    std::vector<const QWidget*> seen;
-    for (const QWidget* widget : window.findChildren<QWidget*>()) {
-        const bool isControl =
-            qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLineEdit*>(widget) ||
-            qobject_cast<const QComboBox*>(widget) || qobject_cast<const QAbstractScrollArea*>(widget);
-        if (!isControl || !widget->isVisible() || qobject_cast<const QComboBox*>(widget->parentWidget()))
-            continue;
-        if (widget->window() != &window || widget->inherits("QComboBoxPrivateContainer")) continue;
-        const std::string name = widget->objectName().toStdString();
-        if (!widget->parentWidget()->rect().contains(widget->geometry()))
-            cut.push_back(name + " leaves its panel");
-        QSize least = widget->minimumSizeHint().boundedTo(widget->maximumSize());
-        if (widget->minimumWidth() > 0) least.setWidth(widget->minimumWidth()); // told, not guessed
-        const bool isList = qobject_cast<const QAbstractScrollArea*>(widget);
-        if (!isList && (widget->width() < least.width() || widget->height() < least.height()))
-            cut.push_back(name + " is too small");
-        seen.push_back(widget);
-    }
-    for (const QWidget* one : seen) {
-        for (const QWidget* other : seen) {
-            if (one < other && one->parentWidget() == other->parentWidget() &&
-                one->geometry().intersects(other->geometry()))
-                cut.push_back(one->objectName().toStdString() + " lies over " +
-                              other->objectName().toStdString());
-        }
-    }
-    return cut;
-}
-
 TEST_P(PlacesOnScreen, NothingIsCutOffAtTheStart) {
     OpenedWindow opened(GetParam());
-    EXPECT_THAT(CutOff(*opened.window), testing::IsEmpty());
+    EXPECT_THAT(CutOffControls(*opened.window), testing::IsEmpty());
 }
 
 TEST_P(PlacesOnScreen, NothingIsCutOffWithThePalette) {
@@ -92,7 +55,7 @@ TEST_P(PlacesOnScreen, NothingIsCutOffWithThePalette) {
     opened.Settle();
     EXPECT_TRUE(opened.Find("FramePics")->isVisible());
     EXPECT_FALSE(opened.Find("Frame3")->isVisible());
-    EXPECT_THAT(CutOff(*opened.window), testing::IsEmpty());
+    EXPECT_THAT(CutOffControls(*opened.window), testing::IsEmpty());
 }
 
 TEST_P(PlacesOnScreen, NothingIsCutOffInTheImageFXStrip) {
@@ -100,7 +63,7 @@ TEST_P(PlacesOnScreen, NothingIsCutOffInTheImageFXStrip) {
     opened.form.FrameRGBFX.Visible = true;
     opened.Settle();
     EXPECT_TRUE(opened.Find("FrameRGBFX")->isVisible());
-    EXPECT_THAT(CutOff(*opened.window), testing::IsEmpty());
+    EXPECT_THAT(CutOffControls(*opened.window), testing::IsEmpty());
 }
 
 TEST_P(PlacesOnScreen, NothingIsCutOffInTheGradientStrip) {
@@ -108,7 +71,7 @@ TEST_P(PlacesOnScreen, NothingIsCutOffInTheGradientStrip) {
     opened.form.FrameGradFX.Visible = true;
     opened.Settle();
     EXPECT_TRUE(opened.Find("FrameGradFX")->isVisible());
-    EXPECT_THAT(CutOff(*opened.window), testing::IsEmpty());
+    EXPECT_THAT(CutOffControls(*opened.window), testing::IsEmpty());
 }
 
 TEST_P(PlacesOnScreen, NothingIsCutOffWithTheSuperBatchPanel) {
@@ -116,7 +79,7 @@ TEST_P(PlacesOnScreen, NothingIsCutOffWithTheSuperBatchPanel) {
     opened.form.Command14.UserClick();
     opened.Settle();
     EXPECT_TRUE(opened.Find("Frame8")->isVisible());
-    EXPECT_THAT(CutOff(*opened.window), testing::IsEmpty());
+    EXPECT_THAT(CutOffControls(*opened.window), testing::IsEmpty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Places, PlacesOnScreen,

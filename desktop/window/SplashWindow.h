@@ -1,0 +1,41 @@
+// The splash as a window: a small frameless card in the middle of the screen that the timer takes away.
+// A click on it, or Space, holds it and lets it go on.
+#pragma once
+
+#include "app/Splash.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class QLabel;
+
+namespace mirelle {
+
+class SplashWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    // Shown and hidden as the splash says.
+    SplashWindow(Splash& splash, Dialogs& dialogs);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void BuildWords();
+    QLabel* Words(Label& control);
+    void FollowForm();
+    void FollowTimer();
+    void ToTheMiddle();
+
+    Splash& splash_;
+    Dialogs& dialogs_;
+    QTimer tick_;
+    bool pressed_ = false;
+};
+
+} // namespace mirelle
