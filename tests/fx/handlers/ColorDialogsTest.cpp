@@ -28,6 +28,14 @@ TEST_F(ColorDialogsTest, TheButtonsStartInTheirColours) {
         EXPECT_EQ(form.cmdColorDialog(index).BackColor, colors[index]) << index;
 }
 
+TEST_F(ColorDialogsTest, EveryClickAsksTheDialogToTellACancel) {
+    for (int index = 0; index < 5; ++index) {
+        form.CDialog1.CancelError = false;
+        form.cmdColorDialog(index).UserClick();
+        EXPECT_TRUE(form.CDialog1.CancelError) << index;
+    }
+}
+
 TEST_F(ColorDialogsTest, TheHairlineColourGoesToBothRectangles) {
     Choose(0, 0x123456);
     EXPECT_EQ(form.Shape1.BorderColor, 0x123456);
@@ -87,6 +95,7 @@ TEST_F(ColorDialogsTest, TheImageFxButtonOpensAndClosesItsPanelThroughRevert) {
     int reverts = 0;
     form.cmdCopy.Click.Connect([&] { ++reverts; });
     form.FrameGradFX.Visible = true;
+    form.FrameRGBFX.Height = 7;
     form.cmdColorDialog(2).UserClick();
     EXPECT_TRUE(form.FrameRGBFX.Visible);
     EXPECT_FALSE(form.FrameGradFX.Visible);
@@ -104,6 +113,7 @@ TEST_F(ColorDialogsTest, TheGradientButtonOpensAndClosesItsPanel) {
     Paste(picture);
     SizeGradientBoxes();
     form.FrameRGBFX.Visible = true;
+    form.FrameGradFX.Height = 7;
     std::vector<int> directions;
     form.cmdGradV.OnClick([&](int index) { directions.push_back(index); });
     form.cmdColorDialog(3).UserClick();

@@ -34,6 +34,13 @@ TEST_F(KernelEffectsTest, EveryButtonShowsItsKernelOfTheRetainedPicture) {
     }
 }
 
+TEST_F(KernelEffectsTest, TheHourglassShowsWhileAKernelRuns) {
+    std::vector<int> pointers;
+    form.PicImage.Change.Connect([&] { pointers.push_back(form.MousePointer); });
+    form.cmdNegative.UserClick();
+    EXPECT_EQ(pointers, std::vector<int>{kPointerHourglass});
+}
+
 TEST_F(KernelEffectsTest, TheUndoPictureTakesTheCanvasBeforeAllButTwo) {
     for (const KernelButton& button : kKernelButtons) {
         const Picture canvas = ChartPicture(5, 5, 1);

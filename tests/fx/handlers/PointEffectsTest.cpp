@@ -1,4 +1,6 @@
+#include "fx/SizeFXBits.h"
 #include "tests/fx/handlers/FxProgram.h"
+#include "tests/support/ErrorOf.h"
 
 #include <algorithm>
 
@@ -115,6 +117,21 @@ TEST_F(PointEffectsTest, ADestinationLargerThanTheSourceIsWrittenFromItsCornerOn
     form.cmdNegativeX.UserClick();
     EXPECT_EQ(Canvas().At(3, 4), (Pixel{252, 251, 205, 0}));
     EXPECT_EQ(form.MousePointer, kPointerDefault);
+}
+
+TEST_F(PointEffectsTest, SizingTheArraysEndsAtTheFirstBoxWithoutPixels) {
+    Paste(ChartPicture(6, 5, 50));
+    form.Pic1.Width = 0;
+    form.PicImage.Picture = ChartPicture(9, 9, 1);
+    EXPECT_EQ(ErrorOf([&] { SizeFXBits(form); }), ErrorNumber::DivisionByZero);
+    EXPECT_EQ(form.FXSource.info.bmWidth, 0);
+    EXPECT_EQ(form.FXSource.bytes.Width(), 6); // the array as it was
+    EXPECT_EQ(form.FXDest.info.bmWidth, 6);
+    form.Pic1.Picture = ChartPicture(7, 3, 1);
+    SizeFXBits(form);
+    EXPECT_EQ(form.FXSource.bytes.Width(), 7);
+    EXPECT_EQ(form.FXSource.bytes.At(1, 2, 2), 0); // anew
+    EXPECT_EQ(form.FXDest.bytes.Height(), 9);
 }
 
 // A picture that is opened to the canvas leaves the arrays in the size of the one before it.
