@@ -14,8 +14,13 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string_view>
 
 namespace mirelle {
+
+// What the question for a percentage proposes, and what the fast contrast takes without one.
+inline constexpr std::string_view kProposedContrast = "50";
+constexpr std::int16_t kFastContrast = 30;
 
 // The parts of a colour. Off the picture, for the colour -1, they are -1, 0 and 0.
 std::int16_t GetRed(Color color);

@@ -3,12 +3,9 @@
 #include "app/FrmPicX.h"
 #include "fx/Contrast.h"
 
+#include <string>
+
 namespace mirelle {
-namespace {
-
-constexpr std::int16_t kFastPercent = 30;
-
-} // namespace
 
 ContrastEffect::ContrastEffect(FrmPicX& form) : form_(form) {
     form_.cmdCont.Click.Connect([this] { AskAndApply(); });
@@ -16,8 +13,8 @@ ContrastEffect::ContrastEffect(FrmPicX& form) : form_(form) {
 }
 
 void ContrastEffect::AskAndApply() {
-    const std::string percent =
-        form_.ports.dialogs.InputBox("Enter contrast percent (-100>+100)", "Contrast Percentage", "50");
+    const std::string percent = form_.ports.dialogs.InputBox(
+        "Enter contrast percent (-100>+100)", "Contrast Percentage", std::string(kProposedContrast));
     if (percent.empty()) {
         form_.MousePointer = kPointerDefault;
         return;
@@ -28,7 +25,7 @@ void ContrastEffect::AskAndApply() {
 
 void ContrastEffect::ApplyFast() {
     form_.MousePointer = kPointerHourglass;
-    ApplyContrast(Integer(kFastPercent));
+    ApplyContrast(Integer(kFastContrast));
     form_.Picture1b.Picture = form_.Picture3.Picture;
     form_.MousePointer = kPointerDefault;
 }

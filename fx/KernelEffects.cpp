@@ -5,11 +5,6 @@
 #include <string>
 
 namespace mirelle {
-namespace {
-
-constexpr int kSmudgerPasses = 151;
-
-} // namespace
 
 KernelEffects::KernelEffects(FrmPicX& form) : form_(form), module_(form.ports.pump) {
     for (const KernelButton& button : kKernelButtons) {

@@ -50,5 +50,6 @@ inline constexpr std::array kKernelButtons{
 
 // What the vertical smudger runs at each pass; no button reaches it, so it has no tool tip.
 inline constexpr KernelButton kBlurVertical{"BlurVertical", "", &KernelSet::FXBlurMoreVert};
+constexpr int kSmudgerPasses = 151;
 
 } // namespace mirelle

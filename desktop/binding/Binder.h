@@ -40,7 +40,10 @@ public:
     void Files(FileListBox& control, RowsView& widget);
     void Folders(DirListBox& control, RowsView& widget);
     void Drives(DriveListBox& control, QComboBox& widget);
-    void Slider(ScrollBar& control, QAbstractSlider& widget);
+    // What a drag of the thumb is to the control: scrolls, and one change where the thumb is let go; or a
+    // change at every step, for what follows changes alone and should follow the hand.
+    enum class Drag { Scrolls, Changes };
+    void Slider(ScrollBar& control, QAbstractSlider& widget, Drag drag = Drag::Scrolls);
     void Spin(UpDown& control, look::SpinArrows& widget);
     void Caption(Label& control, QLabel& widget);
     void Caption(Label& control, look::ElidedLabel& widget);

@@ -23,14 +23,15 @@ void ShowSlider(const ScrollBar& control, QAbstractSlider& widget) {
 
 } // namespace
 
-void Binder::Slider(ScrollBar& control, QAbstractSlider& widget) {
+void Binder::Slider(ScrollBar& control, QAbstractSlider& widget, Drag drag) {
     const auto show = [&control, &widget] { ShowSlider(control, widget); };
     Common(control, widget, show, nullptr);
     Mouse(control, widget, ControlEvents::Take::Mouse);
     const auto set = [this, &control](int value) {
         Run([&] { control.UserSet(static_cast<std::int16_t>(value)); });
     };
-    QObject::connect(&widget, &QAbstractSlider::sliderMoved, &widget, [this, &control](int value) {
+    QObject::connect(&widget, &QAbstractSlider::sliderMoved, &widget, [this, &control, set, drag](int value) {
+        if (drag == Drag::Changes) return set(value);
         Run([&] { control.UserDrag(static_cast<std::int16_t>(value)); });
     });
     QObject::connect(&widget, &QAbstractSlider::sliderReleased, &widget,

@@ -78,8 +78,11 @@ inline constexpr qreal kFocusRing = 1.5;
 
 // Controls.
 inline constexpr int kControlHeight = 24;
-inline constexpr int kIconButton = 28; // both sides
-inline constexpr int kIcon = 20;       // both sides; the grid of the drawings
+inline constexpr int kIconButton = 28;    // both sides
+inline constexpr int kIcon = 20;          // both sides; the grid of the drawings
+inline constexpr int kEffectPicture = 24; // both sides of the picture on an effect's button
+inline constexpr int kEffectRadius = 3;
+inline constexpr int kEffectOff = 40; // how much of a hundred such a picture keeps on a disabled button
 inline constexpr qreal kIconStroke = 1.5;
 inline constexpr int kTick = 16; // check boxes and radio buttons
 inline constexpr qreal kTickStroke = 2;

@@ -1,5 +1,4 @@
-// A button of the Image FX panel. It shows the effect's drawing, or the initials of its name where it has
-// none.
+// A button of the Image FX panel. It shows a sample picture as its effect changes it.
 #pragma once
 
 #include "desktop/look/IconButton.h"
@@ -15,8 +14,5 @@ class EffectButton : public look::IconButton {
 public:
     EffectButton(Binder& binder, CommandButton& control, QWidget* parent);
 };
-
-// "Blur More" gives "BM", "RGB>BGR" gives "BGR", "No Red" gives "NR".
-QString InitialsOf(const QString& name);
 
 } // namespace mirelle

@@ -90,7 +90,7 @@ QWidget* GradientPanel::FormGradient(Parts& parts) {
     for (int row = 0; row < 3; ++row) {
         grid->addWidget(inside.Words(QString::fromLatin1(kNames[row])), row, 0);
         for (int side = 0; side < 2; ++side) {
-            QSlider* slider = inside.Slider(*rows[row][side]);
+            QSlider* slider = inside.Slider(*rows[row][side], Binder::Drag::Changes);
             slider->setAccessibleName(
                 tr("%1 of the gradient's %2").arg(kNames[row], side == 0 ? tr("start") : tr("end")));
             grid->addWidget(slider, row, side + 1);

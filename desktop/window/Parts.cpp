@@ -94,11 +94,11 @@ RowsView* Parts::Rows(ListControl& control) {
     return rows;
 }
 
-QSlider* Parts::Slider(ScrollBar& control) {
+QSlider* Parts::Slider(ScrollBar& control, Binder::Drag drag) {
     auto* slider = new QSlider(Qt::Horizontal, &parent_);
     slider->setFocusPolicy(Qt::TabFocus);
     slider->setMinimumWidth(look::kIconButton * 2);
-    binder_.Slider(control, *slider);
+    binder_.Slider(control, *slider, drag);
     return slider;
 }
 

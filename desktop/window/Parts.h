@@ -38,7 +38,7 @@ public:
     QComboBox* Choice(ComboBox& control);
     QComboBox* EditableChoice(ComboBox& control);
     RowsView* Rows(ListControl& control);
-    QSlider* Slider(ScrollBar& control);
+    QSlider* Slider(ScrollBar& control, Binder::Drag drag = Binder::Drag::Scrolls);
     QScrollBar* Bar(ScrollBar& control, Qt::Orientation orientation);
     look::ElidedLabel* Note(Label& control); // small, quiet, cut with dots where it is too long
     // Words that belong to no control.

@@ -149,14 +149,7 @@ Card* EffectsPanel() {
     auto* column = new QVBoxLayout;
     column->setSpacing(kSpaceSmall);
     card->SetBody(column);
-    column->addLayout(
-        ButtonRow({"cmdSetMain", "cmdRGBUndo", "cmdCopy", "cmdNegativeX", "cmdFlipVert", "cmdFlipHoriz",
-                   "cmdGreyScale", "cmdCont", "cmdCont33", "cmdBlur1", "cmdBlur2", "cmdEmboss",
-                   "cmdPointalism", "cmdPointalismVert", "cmdPixilated"}));
-    column->addLayout(ButtonRow({"cmdNoRed", "cmdNoGreen", "cmdNoBlue", "cmdIncreaseRed", "cmdIncreaseGreen",
-                                 "cmdIncreaseBlue", "cmdDecreaseRed", "cmdDecreaseGreen", "cmdDecreaseBlue",
-                                 "cmdGlowInTheDark", "cmdSunShinnyDay", "cmdVividSilk", "cmdSilk",
-                                 "cmdDarken", "cmdLighten"}));
+    column->addLayout(ButtonRow({"cmdSetMain", "cmdSetMain2", "cmdRGBUndo", "cmdCopy"}));
     auto* sliders = new QHBoxLayout;
     for (const char* name : {"R", "G", "B"}) {
         sliders->addWidget(new SectionCaption(QString::fromLatin1(name)));

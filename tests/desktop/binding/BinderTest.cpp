@@ -207,6 +207,20 @@ TEST_F(BinderTest, AScrollBarTellsDraggingFromSteps) {
     EXPECT_THAT(events, ElementsAre("Change")) << "by the handler's setting alone";
 }
 
+TEST_F(BinderTest, ASliderThatFollowsTheHandChangesAtEveryStep) {
+    QScrollBar bar(Qt::Horizontal, &window);
+    std::vector<std::string> events;
+    form.RS.Scroll.Connect([&] { events.push_back("Scroll"); });
+    form.RS.Change.Connect([&] { events.push_back("Change"); });
+    binder.Slider(form.RS, bar, Binder::Drag::Changes);
+    bar.setSliderDown(true);
+    bar.setSliderPosition(500);
+    bar.setSliderPosition(600);
+    bar.setSliderDown(false);
+    EXPECT_THAT(events, ElementsAre("Change", "Change"));
+    EXPECT_EQ(form.RS.Value, 600);
+}
+
 TEST_F(BinderTest, ALabelsClickAndDoubleClickReachTheControl) {
     QLabel label(&window);
     label.resize(100, 20);

@@ -154,8 +154,8 @@ TEST(Icons, ANameWithoutADrawingPaintsNothing) {
 }
 
 QRgb InkOf(QIcon::Mode mode, QIcon::State state) {
-    // The lower right half of this drawing is solid.
-    return MakeIcon(u"invert").pixmap(QSize(kIcon, kIcon), mode, state).toImage().pixel(15, 14);
+    // The drop at the lower right of this drawing is solid.
+    return MakeIcon(u"canvas-colour").pixmap(QSize(kIcon, kIcon), mode, state).toImage().pixel(16, 14);
 }
 
 TEST(Icons, TakeTheInkOfTheirState) {

@@ -1,7 +1,6 @@
 // What the form says of its window, and what the window tells the form.
 #include "desktop/canvas/SamplingCanvas.h"
 #include "desktop/look/ProgressLine.h"
-#include "desktop/window/EffectButton.h"
 #include "tests/desktop/Mouse.h"
 #include "tests/desktop/Pixels.h"
 #include "tests/desktop/window/OpenedWindow.h"
@@ -164,13 +163,6 @@ TEST(MainWindow, TheFloatingPanelComesToLieWhereItIsDropped) {
     EXPECT_EQ(opened.form.FrShowFrames(0).Top, 250);
     EXPECT_NEAR(panel->x(), 400 / scale, 1);
     EXPECT_NEAR(panel->y(), 250 / scale, 1);
-}
-
-TEST(EffectNames, HaveInitials) {
-    EXPECT_EQ(InitialsOf("Blur More"), "BM");
-    EXPECT_EQ(InitialsOf("Glow"), "Gl");
-    EXPECT_EQ(InitialsOf("RGB>BGR"), "BGR");
-    EXPECT_EQ(InitialsOf("Windswept Surreal Smudger (Horizontal): This FX is retained"), "WSS");
 }
 
 TEST(MainWindow, ABlankMaterialImageLeavesTheGroundOfTheLook) {
