@@ -8,7 +8,11 @@
 namespace mirelle {
 
 // A gibibyte of pixels. A file of a few bytes can claim any size; nothing larger is made for it.
+#ifndef MIRELLE_FUZZ
 constexpr std::int64_t kGreatestPixelCount = std::int64_t{1} << 28;
+#else
+constexpr std::int64_t kGreatestPixelCount = std::int64_t{1} << 20; // a fuzzer has time for many small ones
+#endif
 
 // Raises 481 where one of the sides is not positive, 7 where the picture is too large.
 inline void CheckPictureSize(std::int64_t width, std::int64_t height) {
