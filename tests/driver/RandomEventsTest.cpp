@@ -1,5 +1,6 @@
 // Random events: whatever a user does, in whatever order, no handler lets an error out, no answer breaks the
-// exchange, and the program is there at the end. Set MIRELLE_RANDOM_SESSIONS to run more sessions than usual.
+// exchange, and the program is there at the end (over files in memory; random_events runs longer ones over
+// real files). Set MIRELLE_RANDOM_SESSIONS to run more sessions than usual.
 #include "tests/driver/RandomUser.h"
 #include "tests/driver/TestConversation.h"
 #include "tests/support/Patterns.h"
@@ -46,9 +47,10 @@ TEST_P(RandomEvents, AreAllTaken) {
     LayDownPictures(say);
     ASSERT_EQ(say("start"), "ok");
     ASSERT_EQ(say("window normal 320 200"), "ok");
-    RandomUser user(static_cast<unsigned>(GetParam()), {"dot.png", "grab.png", "strip.png"},
-                    {"C:\\", "D:\\", "C:\\Mirelle\\Support\\Materials",
-                     "C:\\Mirelle\\Support\\Materials\\Art", "C:\\Mirelle\\Support\\Materials\\Bio"});
+    RandomUser user(static_cast<unsigned>(GetParam()),
+                    {{"dot.png", "grab.png", "strip.png"},
+                     {"C:\\", "D:\\", "C:\\Mirelle\\Support\\Materials",
+                      "C:\\Mirelle\\Support\\Materials\\Art", "C:\\Mirelle\\Support\\Materials\\Bio"}});
     std::string script;
     for (int i = 0; i < kCommands; ++i) {
         const std::string command = user.Next(say.Form());

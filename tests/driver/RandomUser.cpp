@@ -24,6 +24,12 @@ constexpr int kSomeCoordinates[] = {-2147483647, -40000, -300, -1,  0,   1,     
 } // namespace
 
 std::string RandomUser::Next(FrmPicX& form) {
+    if (planned_.empty() && Below(12) == 0) PlanARoad();
+    if (!planned_.empty()) {
+        std::string next = std::move(planned_.front());
+        planned_.pop_front();
+        return next;
+    }
     switch (Below(10)) {
     case 0:
     case 1:
@@ -35,6 +41,59 @@ std::string RandomUser::Next(FrmPicX& form) {
     default:
         return OnAnyControl(form);
     }
+}
+
+// What takes several events in a row: pastes, crops, saves, opening, choosing colours, panels that come and
+// go. Events in no order at all seldom get so far.
+void RandomUser::PlanARoad() {
+    switch (Below(9)) {
+    case 0:
+        planned_ = {"clipboard load " + OneOf(reach_.pictures), "click Command5"};
+        PlanACrop();
+        break;
+    case 1:
+        PlanACrop();
+        planned_.insert(planned_.end(),
+                        {Below(2) == 0 ? "answer msg yes" : "answer msg no", "click Command3"});
+        break;
+    case 2:
+        planned_ = {"answer open " + JsonString(OneOf(reach_.documents)), "click Command23"};
+        break;
+    case 3:
+        planned_ = {Below(3) == 0 ? "answer color cancel"
+                                  : "answer color " + std::to_string(Below(0x1000000)),
+                    "click cmdColorDialog(" + std::to_string(Below(5)) + ")"};
+        break;
+    case 4:
+        planned_ = {"mouse down FrShowFrames(0) 1 3 3", "mouse move FrShowFrames(0) 1 60 40",
+                    "drag FrShowFrames(0) " + std::to_string(Below(300)) + " " + std::to_string(Below(200))};
+        break;
+    case 5: {
+        const std::string which = std::to_string(Below(2));
+        planned_ = {"click cmdHideFrame(" + which + ")", "click cmdShowFrames",
+                    "click Command18(" + which + ")"};
+        break;
+    }
+    case 6:
+        planned_ = {"click cmdGetCorvane(0)", "click Command1(" + std::to_string(Below(2)) + ")",
+                    "close zFormUM"};
+        break;
+    case 7:
+        planned_ = {"click Command2", "click Command10", "key esc", "click Command13"};
+        break;
+    default:
+        planned_ = {Below(2) == 0 ? "answer input cancel" : "answer input " + Text(), "click cmdReMat",
+                    "click Command8"};
+    }
+}
+
+void RandomUser::PlanACrop() {
+    const auto place = [this] { return " " + std::to_string(Below(250)) + " " + std::to_string(Below(180)); };
+    planned_.push_back("mouse down Form 1" + place());
+    for (int moves = Below(4); moves > 0; --moves)
+        planned_.push_back("mouse move Form 1" + place());
+    if (Below(8) == 0) planned_.push_back("mouse down Form 2" + place());
+    planned_.push_back("mouse up Form 1" + place());
 }
 
 std::string RandomUser::OnAnyControl(FrmPicX& form) {
@@ -54,7 +113,8 @@ std::string RandomUser::OnControl(Control& control) {
     if (const auto* combo = dynamic_cast<ComboBox*>(&control)) {
         return Below(2) == 0 ? "set " + name + ".Text " + Text() : Row(name, combo->ListCount());
     }
-    if (dynamic_cast<DirListBox*>(&control)) return "opendir " + name + " " + JsonString(OneOf(folders_));
+    if (dynamic_cast<DirListBox*>(&control))
+        return "opendir " + name + " " + JsonString(OneOf(reach_.folders));
     if (const auto* list = dynamic_cast<ListControl*>(&control)) return Row(name, list->ListCount());
     if (const auto* files = dynamic_cast<FileListBox*>(&control)) return Row(name, files->ListCount());
     if (dynamic_cast<DriveListBox*>(&control))
@@ -100,7 +160,7 @@ std::string RandomUser::OnTheDesktop() {
     case 6:
         return Below(2) == 0 ? "answer msg yes" : "key esc";
     default:
-        return "clipboard load " + OneOf(pictures_);
+        return "clipboard load " + OneOf(reach_.pictures);
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include "app/FrmPicX.h"
 
+#include <deque>
 #include <random>
 #include <string>
 #include <vector>
@@ -12,9 +13,14 @@ namespace mirelle::driver {
 
 class RandomUser {
 public:
-    // `pictures` are the names that a clipboard can be loaded from, `folders` those that can be gone to.
-    RandomUser(unsigned seed, std::vector<std::string> pictures, std::vector<std::string> folders)
-        : random_(seed), pictures_(std::move(pictures)), folders_(std::move(folders)) {}
+    // What a user can reach: the machine's names of pictures that a clipboard can be loaded from, folders
+    // that can be gone to, files that can be chosen in the open dialog.
+    struct Reach {
+        std::vector<std::string> pictures;
+        std::vector<std::string> folders;
+        std::vector<std::string> documents = {"C:\\none.jpg"};
+    };
+    RandomUser(unsigned seed, Reach reach) : random_(seed), reach_(std::move(reach)) {}
 
     // The next command for a program in this state. Every one is well formed and possible: its answer has to
     // begin with "ok".
@@ -26,6 +32,8 @@ private:
     std::string OnTheForm();
     std::string OnTheDesktop();
     std::string LinedUp(FrmPicX& form);
+    void PlanARoad();
+    void PlanACrop();
     std::string Text();
     std::string Place(const std::string& target);
     std::string Row(const std::string& list, int count);
@@ -37,8 +45,8 @@ private:
     }
 
     std::mt19937 random_;
-    std::vector<std::string> pictures_;
-    std::vector<std::string> folders_;
+    Reach reach_;
+    std::deque<std::string> planned_; // what comes next, whatever the state of the form
 };
 
 } // namespace mirelle::driver

@@ -1,0 +1,16 @@
+// What is true of the program whatever its user does.
+#pragma once
+
+#include "app/FrmPicX.h"
+
+#include <optional>
+#include <string>
+
+namespace mirelle::driver {
+
+// The first thing that does not hold of the form after an event, nothing where all of it holds: values within
+// their ranges, the counter not negative, and the form's picture the canvas's own after what ends with
+// showing it.
+std::optional<std::string> BrokenInvariant(FrmPicX& form, const std::string& event);
+
+} // namespace mirelle::driver
