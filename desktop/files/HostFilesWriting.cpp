@@ -108,7 +108,8 @@ void OverwriteFileStart(const std::string& path, std::span<const std::uint8_t> b
     const bool wasThere = ::stat(path.c_str(), &found) == 0;
     if (wasThere && !S_ISREG(found.st_mode)) throw RunTimeError(ErrorNumber::PathFileAccess);
 
-    Descriptor file = OpenRegularFile(path, O_WRONLY | O_CREAT, kOrdinaryMode, Action::Write);
+    // Private, and never through a link: such files lie where everybody may put some.
+    Descriptor file = OpenRegularFile(path, O_WRONLY | O_CREAT | O_NOFOLLOW, kPrivateMode, Action::Write);
     FileOnProbation made{wasThere ? std::string() : path};
     WriteAll(file.Number(), bytes, path);
     if (const int failure = file.Close(); failure != 0) RaiseSystemError(failure, Action::Write, path);

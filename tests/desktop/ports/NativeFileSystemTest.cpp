@@ -216,6 +216,16 @@ TEST_F(NativeFileSystemTest, WritesNamesAsLongAsTheSystemHasThem) {
     EXPECT_EQ(EntryCount(), 1u);
 }
 
+TEST_F(NativeFileSystemTest, KeepsTheDumpToItsOwnerAndWritesItThroughNoLink) {
+    files_.OverwriteStart(folder_ / "komp.txt", BytesOf("abc"));
+    EXPECT_EQ(fs::status(folder_ / "komp.txt").permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    folder_.MakeFile("another's", "old");
+    fs::create_symlink("another's", folder_ / "link");
+    EXPECT_EQ(ErrorOf([&] { files_.OverwriteStart(folder_ / "link", BytesOf("new")); }),
+              ErrorNumber::PathNotFound);
+    EXPECT_EQ(folder_.ContentOf("another's"), "old");
+}
+
 TEST_F(NativeFileSystemTest, ReplacesTheFileBehindALinkAndKeepsTheLink) {
     folder_.MakeFolder("store");
     folder_.MakeFile("store/wall.jpg", "old");
