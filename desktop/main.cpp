@@ -9,7 +9,18 @@
 
 #include <QApplication>
 
+namespace {
+
+// Where no message bus runs, the toolkit would start one as a program of its own. Nothing here needs a bus.
+void StartNoMessageBus() {
+    constexpr const char* kAddress = "DBUS_SESSION_BUS_ADDRESS";
+    if (!qEnvironmentVariableIsSet(kAddress)) qputenv(kAddress, "disabled:");
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
+    StartNoMessageBus();
     // Scale factors such as 1.25 count as they are: one canvas pixel is one device pixel.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);

@@ -1,7 +1,9 @@
 #include "desktop/system/QtClipboard.h"
 
+#include "codecs/PictureLimits.h"
 #include "desktop/canvas/PictureImage.h"
 #include "desktop/pictures/QtImages.h"
+#include "forms/RunTimeError.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -18,6 +20,18 @@ QImage OwnImageOf(const Picture& picture) {
     return image;
 }
 
+// An owner that died, or that does not answer, leaves the empty picture after Qt's own bounded wait; so does
+// a picture that is larger than one of a file may be, or than the memory at hand.
+Picture Fetched(const QClipboard& clipboard) {
+    Picture fetched;
+    ResumeNext([&] {
+        const QImage image = clipboard.image();
+        CheckPictureSize(image.width(), image.height());
+        fetched = Picture(OpaqueBitmap(image));
+    });
+    return fetched;
+}
+
 } // namespace
 
 QtClipboard::QtClipboard(QObject* parent) : QObject(parent), clipboard_(*QGuiApplication::clipboard()) {
@@ -31,11 +45,7 @@ bool QtClipboard::HasBitmap() const {
 }
 
 Picture QtClipboard::GetData() {
-    // An owner that died, or that does not answer, leaves the empty picture after Qt's own bounded wait.
-    if (!fetched_) {
-        const QImage image = clipboard_.image();
-        fetched_ = image.isNull() ? Picture() : Picture(OpaqueBitmap(image));
-    }
+    if (!fetched_) fetched_ = Fetched(clipboard_);
     return *fetched_;
 }
 
