@@ -71,6 +71,10 @@ std::size_t ReadInto(int descriptor, std::span<std::uint8_t> bytes, const std::s
     return count;
 }
 
+bool IsHiddenName(const std::string& name) {
+    return name.starts_with('.');
+}
+
 } // namespace
 
 bool IsFolder(const std::string& path) {
@@ -128,8 +132,8 @@ void GiveWritePermission(const std::string& path) {
         RaiseSystemError(errno, Action::Delete, path);
 }
 
-bool IsHiddenName(const std::string& name) {
-    return name.starts_with('.');
+bool IsHiddenFile(const std::string& path) {
+    return IsRegularFile(path) && IsHiddenName(path.substr(path.rfind('/') + 1));
 }
 
 std::vector<std::string> EntryNames(const std::string& folder, EntryKind kind,

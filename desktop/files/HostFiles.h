@@ -46,8 +46,9 @@ void DeleteRegularFile(const std::string& path);
 // Gives the owner the permission to write. Raises 53 (no such file), 75 (not permitted).
 void GiveWritePermission(const std::string& path);
 
-// Whether a name begins with a point.
-bool IsHiddenName(const std::string& name);
+// Whether there is a file and it is hidden: its name begins with a point; on Windows it bears the attribute,
+// or that of the system's own files.
+bool IsHiddenFile(const std::string& path);
 
 enum class EntryKind { File, Folder };
 

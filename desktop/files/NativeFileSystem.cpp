@@ -102,7 +102,7 @@ bool NativeFileSystem::FileExists(const std::string& path) const {
 }
 
 bool NativeFileSystem::IsHidden(const std::string& path) const {
-    return FileExists(path) && host::IsHiddenName(path.substr(path.rfind('/') + 1));
+    return FileExists(path) && host::IsHiddenFile(path);
 }
 
 std::vector<std::string> NativeFileSystem::FileNames(const std::string& folder) const {

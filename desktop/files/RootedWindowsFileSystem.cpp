@@ -78,7 +78,7 @@ bool RootedWindowsFileSystem::FileExists(const std::string& path) const {
 }
 
 bool RootedWindowsFileSystem::IsHidden(const std::string& path) const {
-    return FileExists(path) && host::IsHiddenName(Parse(path).names.back());
+    return FileExists(path) && host::IsHiddenFile(*PlaceOf(Parse(path)));
 }
 
 std::vector<std::string> RootedWindowsFileSystem::FileNames(const std::string& folder) const {

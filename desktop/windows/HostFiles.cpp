@@ -38,20 +38,38 @@ std::wstring Inside(const std::wstring& folder, std::wstring_view name) {
     return folder + (needsSeparator ? L"\\" : L"") + std::wstring(name);
 }
 
+// A look through the entries of a folder.
+class Search {
+public:
+    // Whether there is a first one stands in IsOpen(); the root of an empty disk has none, not even itself.
+    explicit Search(const std::wstring& folder)
+        : handle_(FindFirstFileExW(Inside(folder, L"*").c_str(), FindExInfoBasic, &entry_,
+                                   FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH)) {}
+    ~Search() {
+        if (IsOpen()) FindClose(handle_);
+    }
+    Search(const Search&) = delete;
+    Search& operator=(const Search&) = delete;
+
+    bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
+    const WIN32_FIND_DATAW& Entry() const { return entry_; }
+    bool Next() { return FindNextFileW(handle_, &entry_) != 0; }
+
+private:
+    WIN32_FIND_DATAW entry_{}; // ahead of the handle, whose making fills it
+    HANDLE handle_;
+};
+
 // Calls `take` for each entry of the folder but "." and "..". False where the folder can't be listed.
 template <class Take>
 bool ForEachEntry(const std::string& folder, Take&& take) {
     const std::optional<std::wstring> wide = SystemPath(folder);
     if (!wide) return false;
-    WIN32_FIND_DATAW entry;
-    const HANDLE search = FindFirstFileExW(Inside(*wide, L"*").c_str(), FindExInfoBasic, &entry,
-                                           FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
-    // The root of an empty disk has no entry at all, not even itself.
-    if (search == INVALID_HANDLE_VALUE) return GetLastError() == ERROR_FILE_NOT_FOUND && IsFolder(folder);
+    Search search(*wide);
+    if (!search.IsOpen()) return GetLastError() == ERROR_FILE_NOT_FOUND && IsFolder(folder);
     do {
-        if (!IsPointOrTwo(entry.cFileName)) take(*wide, entry);
-    } while (FindNextFileW(search, &entry) != 0);
-    FindClose(search);
+        if (!IsPointOrTwo(search.Entry().cFileName)) take(*wide, search.Entry());
+    } while (search.Next());
     return true;
 }
 
@@ -113,7 +131,9 @@ bool IsRegularFile(const std::string& path) {
 }
 
 bool CanEnterFolder(const std::string& path) {
-    return IsFolder(path) && ForEachEntry(path, [](const std::wstring&, const WIN32_FIND_DATAW&) {});
+    if (!IsFolder(path)) return false;
+    const Search search(*SystemPath(path));
+    return search.IsOpen() || GetLastError() == ERROR_FILE_NOT_FOUND;
 }
 
 bool IsMarkedReadOnly(const std::string& path) {
@@ -149,6 +169,11 @@ void GiveWritePermission(const std::string& path) {
     if (!wide || !IsFile(attributes)) throw RunTimeError(ErrorNumber::FileNotFound);
     if (SetFileAttributesW(wide->c_str(), attributes & ~DWORD(FILE_ATTRIBUTE_READONLY)) == 0)
         RaiseLastError(Action::Delete, path);
+}
+
+bool IsHiddenFile(const std::string& path) {
+    const DWORD attributes = AttributesOf(path);
+    return IsFile(attributes) && Has(attributes, kHidden);
 }
 
 std::vector<std::string> EntryNames(const std::string& folder, EntryKind kind,

@@ -66,7 +66,10 @@ std::string RealFolder(const std::string& path) {
 NativeFileSystem::NativeFileSystem(const std::string& appFolder, std::string dumpFile,
                                    const std::string& fence)
     : appFolder_(AbsolutePath(appFolder)), dumpFile_(std::move(dumpFile)),
-      fence_(fence.empty() ? std::string() : RealFolder(fence)) {}
+      fence_(fence.empty() ? std::string() : RealFolder(fence)) {
+    // A drive without a disk is an error like any other, and not for Windows to ask the user about.
+    SetErrorMode(GetErrorMode() | SEM_FAILCRITICALERRORS);
+}
 
 char NativeFileSystem::Separator() const {
     return '\\';
@@ -96,6 +99,10 @@ bool NativeFileSystem::FolderExists(const std::string& path) const {
 bool NativeFileSystem::FileExists(const std::string& path) const {
     const std::string file = AbsolutePath(path);
     return !file.empty() && !IsSeparator(path.back()) && IsInReach(file) && host::IsRegularFile(file);
+}
+
+bool NativeFileSystem::IsHidden(const std::string& path) const {
+    return FileExists(path) && host::IsHiddenFile(AbsolutePath(path));
 }
 
 std::vector<std::string> NativeFileSystem::FileNames(const std::string& folder) const {

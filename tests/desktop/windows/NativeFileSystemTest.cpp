@@ -177,6 +177,11 @@ TEST_F(NativeFileSystemTest, ListsFilesAndFoldersApartAndLeavesOutWhatIsHidden) 
     EXPECT_THAT(files_.FileNames(home_), ElementsAre("wall.jpg"));
     EXPECT_THAT(files_.FolderNames(home_), ElementsAre("Art"));
     EXPECT_TRUE(files_.FileExists(In("secret.jpg")));
+    EXPECT_TRUE(files_.IsHidden(In("secret.jpg")));
+    EXPECT_TRUE(files_.IsHidden(In("system.jpg")));
+    EXPECT_FALSE(files_.IsHidden(In("wall.jpg")));
+    EXPECT_FALSE(files_.IsHidden(In("Attic")));
+    EXPECT_FALSE(files_.IsHidden(In("missing.jpg")));
 }
 
 TEST_F(NativeFileSystemTest, LeavesAReadOnlyFileUntilItIsMadeWritable) {
