@@ -147,6 +147,39 @@ TEST_F(BatchSendTest, TheFiltersTextDecidesTheStemWithRegardToCase) {
     EXPECT_EQ(form.textProfileName.Text(), "UP.JPG");
 }
 
+TEST_F(BatchSendTest, TheStemLosesTheFiltersTextWithoutItsStarsAndBlanks) {
+    const struct {
+        const char* filter;
+        const char* file;
+        const char* stem;
+    } rows[] = {{"*.bmp", "a.bmp", "a"}, {"*.jp*", "a.jpg", "ag"}, {" *.jpg ", "a.jpg", "a"}};
+    for (const auto& row : rows) {
+        program.files.AddFile(std::string("C:\\Mat\\") + row.file);
+        form.File5.SetPath("C:\\Mat");
+        form.File5.SetPattern(row.filter);
+        form.Combo5.Text = row.filter;
+        form.Command10.UserClick();
+        const Texts sent = Sent();
+        ASSERT_EQ(sent.size(), 5U) << row.filter;
+        EXPECT_EQ(sent[3], Material(row.stem, std::string("C:\\\\Mat\\\\") + row.file)) << row.filter;
+    }
+}
+
+TEST_F(BatchSendTest, ANameKeepsNoBlankAheadOfItsExtension) {
+    form.List2.AddItem("C:\\Mat\\a .jpg");
+    form.Command13.UserClick();
+    EXPECT_EQ(form.textProfileName.Text(), "a");
+}
+
+TEST_F(BatchSendTest, ALineThatCannotBeTypedEndsTheRunAndWhatWasTypedStays) {
+    program.desktop.console.refusedKeys = "materials.add";
+    form.List2.AddItem("C:\\Mat\\a.jpg");
+    form.List2.AddItem("C:\\Mat\\b.jpg");
+    form.Command13.UserClick();
+    EXPECT_EQ(Sent(), (Texts{activate, shell, preamble}));
+    EXPECT_EQ(OnlyMessage(), "Make sure the Ruby Console is visible");
+}
+
 TEST_F(BatchSendTest, EscapeShortensOnePauseAndTheNextFileGoesOut) {
     form.List2.AddItem("C:\\a.jpg");
     form.List2.AddItem("C:\\b.jpg");

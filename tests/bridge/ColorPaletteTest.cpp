@@ -86,6 +86,32 @@ TEST_F(ColorPaletteTest, WithSampleToImageTheMaterialBecomesASwatch) {
     EXPECT_EQ(form.picSmall.Image().Pixels(), Bitmap(30, 20, Pixel{9, 8, 7, 0}));
 }
 
+TEST_F(ColorPaletteTest, WithoutSampleToImageTheMaterialStays) {
+    const Picture material = ChartPicture(30, 20);
+    form.picSmall.Picture = material;
+    form.picSmall.BackColor = 0x123456;
+    Press(9, 8);
+    EXPECT_TRUE(form.picSmall.Picture().SharesPixelsWith(material));
+    EXPECT_EQ(form.picSmall.BackColor, 0x123456);
+}
+
+TEST_F(ColorPaletteTest, APressOffTheChartTakesMinusOneAsAColour) {
+    Press(250, 8);
+    EXPECT_EQ(form.Frame2.BackColor, -1);
+    EXPECT_EQ(form.SampledColorValue, Variant(Long(-1)));
+    EXPECT_FALSE(form.Text2x(0).Text().empty());
+}
+
+TEST_F(ColorPaletteTest, ASlotOfNoKeysIsPassedOver) {
+    program.desktop.console.refusedKeys = "(";
+    form.Text2x(2).Text = "(";
+    form.cmdColor(2).UserClick();
+    form.Command1x.UserClick();
+    EXPECT_TRUE(program.desktop.dialogs.messages.empty());
+    for (const std::string& line : Sent())
+        EXPECT_FALSE(line.find('(') != std::string::npos && line.starts_with("SendKeys")) << line;
+}
+
 TEST_F(ColorPaletteTest, AMoveShowsTheColourUnderThePointer) {
     form.Picture2.MouseMove({0, 0, 33, 44});
     EXPECT_EQ(form.Frame2.BackColor, RGB(7, 44, 33));

@@ -123,6 +123,14 @@ TEST_F(SendMaterialTest, WithoutAConsoleTheMessageComesAndNothingIsTyped) {
     }
 }
 
+TEST_F(SendMaterialTest, ALineThatCannotBeTypedIsToldAsAMissingConsoleAndWhatWasTypedStays) {
+    ListFiles();
+    program.desktop.console.refusedKeys = "materials.add";
+    form.Command6.UserClick();
+    EXPECT_EQ(Sent(), (Texts{activate, shell, preamble}));
+    EXPECT_EQ(Messages(), (Texts{"Make sure the Ruby Console is visible"}));
+}
+
 TEST_F(SendMaterialTest, NamesGoOutAsTheyStand) {
     ListFiles();
     form.textProfileName.Text = "wall + brick (50%) {a} ~^";

@@ -73,6 +73,25 @@ TEST_F(SuperBatchPanelTest, AClickOnARowShowsItOnTheCanvasOnly) {
     EXPECT_TRUE(form.Picture().SharesPixelsWith(picture));
     EXPECT_TRUE(form.PicImage.Picture().IsEmpty());
     EXPECT_TRUE(form.picSmall.Picture().IsEmpty());
+    EXPECT_TRUE(form.Picture3.Picture().IsEmpty());
+}
+
+TEST_F(SuperBatchPanelTest, BlanksAroundARowAreNotPartOfItsPath) {
+    form.List2.AddItem("  " + form.List2.List(0) + " ");
+    form.List2.SetListIndex(form.List2.ListCount() - 1);
+    EXPECT_EQ(form.Label8(2).Caption(), "File: a.jpg");
+    EXPECT_TRUE(form.Picture().SharesPixelsWith(picture));
+}
+
+TEST_F(SuperBatchPanelTest, OpeningShowsWhatTextureModeAndOthersHid) {
+    form.cmdReMat.UserClick();
+    form.TextMatSize.Visible = false;
+    form.ckSize.Visible = false;
+    ASSERT_FALSE(form.Command6.Visible);
+    form.Command14.UserClick();
+    EXPECT_TRUE(form.Command6.Visible);
+    EXPECT_TRUE(form.TextMatSize.Visible);
+    EXPECT_TRUE(form.ckSize.Visible);
 }
 
 TEST_F(SuperBatchPanelTest, WithLoadAClickFillsTheHoldersFromOneDecoding) {

@@ -21,11 +21,16 @@ std::optional<Answer> Next(std::deque<std::optional<Answer>>& answers) {
 
 class RecordingShell : public ShellObject {
 public:
-    explicit RecordingShell(std::vector<SentItem>& sent) : sent_(sent) {}
-    void SendKeys(const std::string& text) override { sent_.push_back({"SendKeys", text}); }
+    explicit RecordingShell(ScriptedConsole& console) : console_(console) {}
+    void SendKeys(const std::string& text) override {
+        const std::string& refused = console_.refusedKeys;
+        if (!refused.empty() && text.find(refused) != std::string::npos)
+            throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+        console_.sent.push_back({"SendKeys", text});
+    }
 
 private:
-    std::vector<SentItem>& sent_;
+    ScriptedConsole& console_;
 };
 
 } // namespace
@@ -132,7 +137,7 @@ void ScriptedConsole::AppActivate(const std::string& title) {
 std::unique_ptr<ShellObject> ScriptedConsole::CreateObject(const std::string& className) {
     if (className != "WScript.Shell") throw RunTimeError(ErrorNumber::CannotCreateObject);
     sent.push_back({"CreateObject", className});
-    return std::make_unique<RecordingShell>(sent);
+    return std::make_unique<RecordingShell>(*this);
 }
 
 Ports ScriptedDesktop::PortsOver(FileSystem& files, PictureLoader& loader, ImageEncoders& encoders) {

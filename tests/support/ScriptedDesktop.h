@@ -111,7 +111,8 @@ public:
     void AppActivate(const std::string& title) override;
     std::unique_ptr<ShellObject> CreateObject(const std::string& className) override;
 
-    bool present = true; // whether a window titled "Ruby Console" is there
+    bool present = true;     // whether a window titled "Ruby Console" is there
+    std::string refusedKeys; // a text that holds this is no text for keys: error 5, and nothing is typed
     std::vector<SentItem> sent;
 };
 
