@@ -159,6 +159,51 @@ TEST_F(PasteTest, AVisibleGradientPanelRunsTwiceDownwardsFromEitherDirection) {
     }
 }
 
+// Each holder that takes the bitmap is a read of its own.
+TEST_F(PasteTest, TheClipboardIsReadAfreshAtEachUse) {
+    int& reads = program.desktop.clipboard.reads;
+    PutOnClipboard(grab);
+    form.Command5.UserClick();
+    EXPECT_EQ(reads, 9);
+    reads = 0;
+    form.FrameGradFX.Visible = true;
+    form.Command5.UserClick();
+    EXPECT_EQ(reads, 11);
+    reads = 0;
+    form.ckKeep.Value = kChecked;
+    form.Command5.UserClick();
+    EXPECT_EQ(reads, 10);
+}
+
+TEST_F(PasteTest, ABitmapThatComesBetweenTwoReadsIsTakenByTheReadsBehindIt) {
+    const Picture second = ChartPicture(30, 20, 5);
+    PutOnClipboard(grab);
+    form.Picture1.Change.Connect([&] { PutOnClipboard(second); });
+    form.Command5.UserClick();
+    EXPECT_TRUE(form.Picture1.Picture().SharesPixelsWith(grab));
+    for (const PictureBox* box : {&form.PicImage, &form.Picture3, &form.Pic1, &form.picSmall})
+        EXPECT_TRUE(box->Picture().SharesPixelsWith(second)) << box->Name();
+    EXPECT_TRUE(form.Picture().SharesPixelsWith(second));
+}
+
+// The gradient's boxes are painted: between the change of the height and that of the width one would have
+// more pixels than there can be.
+TEST_F(PasteTest, AGradientBoxThatCannotTakeItsSizeDoesNotEndThePaste) {
+    form.FrameGradFX.Visible = true;
+    PutOnClipboard(ChartPicture(32000, 1));
+    form.Command5.UserClick();
+    const Picture upright = ChartPicture(1, 17000, 5);
+    PutOnClipboard(upright);
+    form.pic2grad.Picture = upright; // of the size to come, so that nothing is to be stretched
+    EXPECT_NO_THROW(form.Command5.UserClick());
+    for (const PictureBox* box : {&form.PicImage, &form.Picture3, &form.Pic1, &form.picSmall})
+        EXPECT_TRUE(box->Picture().SharesPixelsWith(upright)) << box->Name();
+    for (const PictureBox* box : {&form.pic1grad, &form.pic2grad, &form.picDest}) {
+        EXPECT_EQ(box->PixelWidth(), 1) << box->Name();
+        EXPECT_EQ(box->PixelHeight(), 17000) << box->Name();
+    }
+}
+
 TEST_F(PasteTest, AClipboardThatLosesItsBitmapHalfwayLeavesTheRestAsItWas) {
     form.Pic1.Picture = former;
     PutOnClipboard(grab);
