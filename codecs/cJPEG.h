@@ -63,9 +63,9 @@ public:
     const std::string& Comment() const { return CommentText_; }
 
     // Writes the file with a single write and returns kDone; kNoFileName for the empty name; kFileExists,
-    // with nothing written, where a file of that name stands. Raises error 9 when nothing was sampled or the
-    // file outgrows its estimate, error 6 for a comment or a side that has no room in its segment, and what
-    // the file system raises.
+    // with nothing written, where a file of that name stands. Raises error 9 when nothing was sampled, error
+    // 6 for a comment or a side that has no room in its segment, and what the file system raises. The room
+    // made for the file holds two bytes a coefficient beside the estimate, so that no file outgrows it.
     int SaveFileJPG(const std::string& fileName, FileSystem& files);
 
 private:
