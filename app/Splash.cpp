@@ -12,10 +12,15 @@ constexpr ScreenSize kSplashSize{480, 270};
 constexpr int kTickMilliseconds = 100;
 constexpr int kTicks = 11;
 
-std::string Today() {
-    const std::time_t now = std::time(nullptr);
+// The month stands there in the words of the program's locale.
+std::string TextOf(const CalendarDate& date) {
+    constexpr int kFirstYear = 1900;
+    std::tm parts{};
+    parts.tm_mday = date.day;
+    parts.tm_mon = date.month - 1;
+    parts.tm_year = date.year - kFirstYear;
     std::array<char, 64> text{};
-    const std::size_t length = std::strftime(text.data(), text.size(), "%d %B %Y", std::localtime(&now));
+    const std::size_t length = std::strftime(text.data(), text.size(), "%d %B %Y", &parts);
     return {text.data(), length};
 }
 
@@ -38,7 +43,7 @@ void Splash::Load() {
     const ScreenSize screen = ports_.screen.Size();
     Top = static_cast<float>(screen.height) * kTwipsPerPixel / 2 - Height / 2;
     Left = static_cast<float>(screen.width) * kTwipsPerPixel / 2 - Width / 2;
-    lblDate.Caption = Today();
+    lblDate.Caption = TextOf(ports_.pump.Date());
     Visible = true;
 }
 

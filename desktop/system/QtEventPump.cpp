@@ -1,6 +1,7 @@
 #include "desktop/system/QtEventPump.h"
 
 #include <QCoreApplication>
+#include <QDate>
 #include <QEventLoop>
 #include <QThread>
 #include <QTime>
@@ -21,6 +22,11 @@ QtEventPump::QtEventPump(QObject* parent) : QObject(parent) {
 
 double QtEventPump::Timer() {
     return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
+}
+
+CalendarDate QtEventPump::Date() {
+    const QDate today = QDate::currentDate();
+    return {today.year(), today.month(), today.day()};
 }
 
 double QtEventPump::Milliseconds() {

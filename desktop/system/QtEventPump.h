@@ -15,6 +15,7 @@ public:
     explicit QtEventPump(QObject* parent = nullptr);
 
     double Timer() override; // by the local clock
+    CalendarDate Date() override;
     double Milliseconds() override;
     // In passing, only what draws runs: keys and mouse wait for the end of the handler, in their order. In
     // pauses and between passes everything runs.

@@ -10,12 +10,21 @@ enum class PumpSite {
     Pass,    // after one pass of a repeated effect
 };
 
+// A day of the calendar; months and days count from 1.
+struct CalendarDate {
+    int year = 1970;
+    int month = 1;
+    int day = 1;
+};
+
 class EventPump {
 public:
     virtual ~EventPump() = default;
 
     // Timer: the seconds since midnight, with fractions.
     virtual double Timer() = 0;
+    // Date: today, where the user is.
+    virtual CalendarDate Date() = 0;
     // A free-running counter in milliseconds, for measuring.
     virtual double Milliseconds() = 0;
     // DoEvents: runs the events that wait. Other handlers may run inside it.

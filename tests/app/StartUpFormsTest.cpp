@@ -13,14 +13,23 @@ protected:
     FrmPicX& form = program.form;
 };
 
-TEST_F(StartUpFormsTest, TheSplashTellsTitleVersionAndDateInTheMiddleOfTheScreen) {
+TEST_F(StartUpFormsTest, TheSplashTellsTitleAndVersionInTheMiddleOfTheScreen) {
     splash.Load();
     EXPECT_EQ(splash.Caption(), "About Mirelle");
     EXPECT_EQ(splash.lblVersion.Caption(), "Version 1.0.0");
-    EXPECT_FALSE(splash.lblDate.Caption().empty());
     EXPECT_EQ(splash.Left + splash.Width / 2, 1920 * 15 / 2);
     EXPECT_EQ(splash.Top + splash.Height / 2, 1080 * 15 / 2);
     EXPECT_TRUE(splash.Visible);
+}
+
+TEST_F(StartUpFormsTest, TheSplashTellsTheDateOfTheDay) {
+    for (const auto& [today, shown] : {std::pair{CalendarDate{2026, 11, 21}, "21 November 2026"},
+                                       {CalendarDate{2024, 2, 29}, "29 February 2024"},
+                                       {CalendarDate{2027, 1, 5}, "05 January 2027"}}) {
+        program.desktop.time.today = today;
+        splash.Load();
+        EXPECT_EQ(splash.lblDate.Caption(), shown);
+    }
 }
 
 TEST_F(StartUpFormsTest, TheEleventhTickEndsTheSplash) {
@@ -77,6 +86,14 @@ TEST_F(StartUpFormsTest, ItsButtonsOpenTheManual) {
     EXPECT_EQ(opened[0].workingFolder, "C:\\");
     EXPECT_EQ(opened[0].showMode, 0);
     EXPECT_TRUE(opened[1].target.starts_with("https://"));
+}
+
+TEST_F(StartUpFormsTest, AViewerThatFailsIsNotTold) {
+    program.desktop.viewer.failure = ErrorNumber::FileNotFound;
+    for (const int button : {0, 1})
+        EXPECT_NO_THROW(manual.Command1(button).UserClick()) << button;
+    EXPECT_EQ(program.desktop.viewer.opened.size(), 2U);
+    EXPECT_TRUE(program.desktop.dialogs.messages.empty());
 }
 
 } // namespace

@@ -16,6 +16,7 @@ public:
     explicit ReadingsClock(std::deque<double> readings) : readings_(std::move(readings)) {}
 
     double Timer() override { return 0; }
+    CalendarDate Date() override { return {}; }
     double Milliseconds() override {
         const double reading = readings_.front();
         if (readings_.size() > 1) readings_.pop_front();

@@ -41,16 +41,19 @@ Picture ScriptedClipboard::GetData() {
 }
 
 void ScriptedClipboard::Clear() {
+    changes.emplace_back("Clear");
     bitmap = Picture();
     text.reset();
 }
 
 void ScriptedClipboard::SetData(const Picture& picture) {
+    changes.emplace_back("SetData");
     text.reset();
     bitmap = picture;
 }
 
 void ScriptedClipboard::SetText(const std::string& newText) {
+    changes.emplace_back("SetText");
     bitmap = Picture();
     text = newText;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "forms/Ports.h"
+#include "forms/RunTimeError.h"
 
 #include <deque>
 #include <functional>
@@ -29,6 +30,7 @@ public:
     Picture bitmap;
     std::optional<std::string> text;
     int reads = 0;
+    std::vector<std::string> changes; // "Clear", "SetData" and "SetText" so far, oldest first
 };
 
 struct ShownMessage {
@@ -80,6 +82,7 @@ public:
     explicit ScriptedTime(std::vector<SentItem>& sent) : sent_(sent) {}
 
     double Timer() override;
+    CalendarDate Date() override { return today; }
     double Milliseconds() override { return seconds * 1000.0; }
     void DoEvents(PumpSite site) override;
     void PauseBegins(double delay) override;
@@ -89,6 +92,7 @@ public:
     void HandlersHaveEnded();
 
     double seconds = 36000; // since midnight
+    CalendarDate today{2024, 2, 29};
     int pumps = 0;
     std::deque<std::function<void()>> duringPause;        // one is taken in each pause
     std::multimap<int, std::function<void()>> duringPass; // keyed by the pass after which they run
@@ -125,8 +129,10 @@ class ScriptedViewer : public SystemViewer {
 public:
     void Open(const std::string& target, const std::string& workingFolder, int showMode) override {
         opened.push_back({target, workingFolder, showMode});
+        if (failure) throw RunTimeError(*failure);
     }
     std::vector<OpenedDocument> opened;
+    std::optional<ErrorNumber> failure; // what opening ends in
 };
 
 class ScriptedScreen : public Screen {

@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 
 #include <QCoreApplication>
+#include <QDate>
 #include <QDir>
 #include <QGuiApplication>
 #include <QTemporaryDir>
@@ -50,6 +51,14 @@ TEST(EventPump, TellsTheSecondsSinceMidnight) {
     if (after < before) GTEST_SKIP() << "midnight passed";
     EXPECT_GE(told, before);
     EXPECT_LE(told, after);
+}
+
+TEST(EventPump, TellsTheDayOfTheCalendar) {
+    QtEventPump pump;
+    const QDate before = QDate::currentDate();
+    const CalendarDate today = pump.Date();
+    if (QDate::currentDate() != before) GTEST_SKIP() << "midnight passed";
+    EXPECT_EQ(QDate(today.year, today.month, today.day), before);
 }
 
 TEST(EventPump, RunsWhatWaits) {
