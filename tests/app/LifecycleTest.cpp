@@ -218,6 +218,20 @@ TEST(FirstActivate, SelectsTheFirstFileAndShowsTheWorkingPicture) {
     EXPECT_TRUE(program.form.Picture().SharesPixelsWith(program.form.PicImage.Picture));
 }
 
+TEST(FirstActivate, ShowsTheWorkingPictureAlsoWhereTheLibraryIsEmpty) {
+    TestProgram program;
+    program.files.AddFolder(kLibrary);
+    program.form.Load();
+    program.form.PicImage.Picture = test::ChartPicture(6, 4);
+    program.form.Activate();
+    EXPECT_TRUE(program.form.Picture().SharesPixelsWith(program.form.PicImage.Picture));
+    // Once only: the activations after it leave the canvas.
+    const Picture canvas = program.form.Picture;
+    program.form.PicImage.Picture = test::ChartPicture(5, 3);
+    program.form.Activate();
+    EXPECT_TRUE(program.form.Picture().SharesPixelsWith(canvas));
+}
+
 TEST(FirstActivate, WaitsForTheNormalWindow) {
     LibraryProgram program;
     FrmPicX& form = program.form;

@@ -110,6 +110,12 @@ TEST_F(PanelsTest, ADoubleClickOnThePathCopiesIt) {
     EXPECT_EQ(program.desktop.clipboard.text, "C:\\Mat\\a.jpg");
 }
 
+TEST_F(PanelsTest, CopyingThePathClearsTheClipboardFirst) {
+    form.lblPubPath.Caption = "C:\\Mat\\a.jpg";
+    form.lblPubPath.UserDblClick();
+    EXPECT_EQ(program.desktop.clipboard.changes, (std::vector<std::string>{"Clear", "SetText"}));
+}
+
 TEST_F(PanelsTest, TheMainMaterialButtonTellsTheName) {
     form.textProfileName.Text = " Art_5 ";
     form.cmdMat2Corvane.MouseMove({});

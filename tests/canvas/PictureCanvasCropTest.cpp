@@ -10,7 +10,7 @@ class PictureCanvasCropTest : public ::testing::Test {
 protected:
     PictureCanvasCropTest() { form.PicImage.Picture = canvas; }
     void Press(float x, float y, int button = 1) { form.PicImage.MouseDown({button, 0, x, y}); }
-    void Move(float x, float y) { form.PicImage.MouseMove({1, 0, x, y}); }
+    void Move(float x, float y, int button = 1) { form.PicImage.MouseMove({button, 0, x, y}); }
     void Release() { form.PicImage.MouseUp({1, 0, 0, 0}); }
 
     TestProgram program;
@@ -48,6 +48,37 @@ TEST_F(PictureCanvasCropTest, AnUpwardMoveKeepsTheHeight) {
     Move(130, 60);
     EXPECT_EQ(form.Shape1.Width, 30);
     EXPECT_EQ(form.Shape1.Height, 25);
+}
+
+TEST_F(PictureCanvasCropTest, AMoveDownToTheLeftKeepsTheHeight) {
+    form.Shape1.Height = 25;
+    Press(100, 80);
+    Move(70, 100);
+    EXPECT_EQ(form.Shape1.Width, 30);
+    EXPECT_EQ(form.Shape1.Height, 25);
+    EXPECT_TRUE(form.Caption().starts_with("CROPMODE-Pixel coord: width x:70 "));
+}
+
+TEST_F(PictureCanvasCropTest, AMoveSizesTheRectangleWithWhateverButton) {
+    Press(10, 20);
+    float edge = 40;
+    for (const int button : {0, 1, 2, 4}) {
+        Move(edge, edge + 20, button);
+        EXPECT_EQ(form.Shape1.Width, edge - 10) << button;
+        EXPECT_EQ(form.Shape1.Height, edge) << button;
+        edge += 5;
+    }
+}
+
+TEST_F(PictureCanvasCropTest, LockIsNotAskedFor) {
+    form.picSmall.Picture = ChartPicture(9, 9);
+    form.ckLock.Value = kChecked;
+    Press(10, 20);
+    Move(40, 60);
+    Release();
+    EXPECT_EQ(form.picSmall.PixelWidth(), 30);
+    EXPECT_EQ(form.picSmall.PixelHeight(), 40);
+    EXPECT_EQ(form.picSmall.Image().Pixels(), Cut(canvas.Pixels(), 10, 20, 30, 40));
 }
 
 TEST_F(PictureCanvasCropTest, AMoveOntoTheStartColumnChangesNothingButTheTitle) {

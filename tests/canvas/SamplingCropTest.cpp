@@ -8,6 +8,7 @@ namespace {
 
 constexpr int kLeft = 1;
 constexpr int kRight = 2;
+constexpr int kMiddle = 4;
 
 class SamplingCropTest : public ::testing::Test {
 protected:
@@ -171,6 +172,29 @@ TEST_F(SamplingCropTest, LockCutsALargerCropAndKeepsTheSize) {
     EXPECT_TRUE(form.picSmall.AutoSize);
 }
 
+TEST_F(SamplingCropTest, LockPaintsTheTwinOfTheMaterialImageToo) {
+    form.picSmall2.Picture = ChartPicture(30, 20, 8);
+    form.ckLock.Value = kChecked;
+    Drag(10, 10, 110, 90);
+    EXPECT_TRUE(form.picSmall2.Picture().IsEmpty());
+    EXPECT_EQ(form.picSmall2.Image().Pixels(), Cut(canvas.Pixels(), 10, 10, 30, 20));
+}
+
+TEST_F(SamplingCropTest, ACropClearsThePictureOfTheTwin) {
+    form.picSmall2.Picture = ChartPicture(30, 20, 8);
+    Drag(10, 10, 20, 20);
+    EXPECT_TRUE(form.picSmall2.Picture().IsEmpty());
+}
+
+TEST_F(SamplingCropTest, KeepLeavesTheTwinAlone) {
+    const Picture kept = ChartPicture(30, 20, 8);
+    form.picSmall2.Picture = kept;
+    form.ckKeep.Value = kChecked;
+    Drag(10, 10, 20, 20);
+    EXPECT_TRUE(form.picSmall2.Picture().SharesPixelsWith(kept));
+    EXPECT_TRUE(form.picSmall2.Image().SharesPixelsWith(kept));
+}
+
 TEST_F(SamplingCropTest, LockFillsTheTopLeftOfALargerMaterialAndLeavesTheRestBlank) {
     form.picSmall.Picture = ChartPicture(50, 40, 8);
     form.ckLock.Value = kChecked;
@@ -321,6 +345,52 @@ TEST_F(SamplingCropTest, ACropTooLargeForMemoryIsToldAndDoesNoHarm) {
     Press(0, 0);
     Release(0, 0);
     EXPECT_EQ(form.picSmall.Image().Pixels(), Cut(canvas.Pixels(), 0, 0, 4, 3));
+}
+
+TEST_F(SamplingCropTest, AnErrorInTheReleaseLeavesTheRestUndone) {
+    form.TextCrop(0).Text = "2000000000";
+    form.TextCrop(1).Text = "2000000000";
+    Press(7, 9);
+    Release(7, 9);
+    ASSERT_EQ(Messages().size(), 1U);
+    EXPECT_EQ(Messages()[0].text, "Out of memory");
+    EXPECT_FALSE(form.CropDragging.IsTrue());
+    EXPECT_TRUE(form.Shape1.Visible);
+    EXPECT_EQ(form.CropStartX, Variant(7.0F));
+    EXPECT_EQ(form.CropStartY, Variant(9.0F));
+    EXPECT_EQ(form.IncrementCounter.Text(), "5");
+    EXPECT_EQ(form.TextLoops.Text(), "0");
+    EXPECT_EQ(form.textProfileName.Text(), "Art_5");
+    EXPECT_TRUE(form.Image1.Picture().IsEmpty());
+}
+
+TEST_F(SamplingCropTest, AThirdButtonStartsNothing) {
+    form.CropCancelled = true;
+    Press(40, 60, kMiddle);
+    EXPECT_FALSE(form.CropCancelled); // whatever the button
+    EXPECT_FALSE(form.Shape1.Visible);
+    EXPECT_FALSE(form.Shape3.Visible);
+    EXPECT_FALSE(form.CropDragging.IsTrue());
+    EXPECT_TRUE(form.CropStartX.IsEmpty());
+    EXPECT_TRUE(form.CropStartY.IsEmpty());
+    EXPECT_TRUE(Messages().empty());
+}
+
+TEST_F(SamplingCropTest, AThirdButtonMovesTheFloorBarToo) {
+    form.ckFloorBar.Value = kChecked;
+    Press(40, 60, kMiddle);
+    EXPECT_TRUE(form.Shape3.Visible);
+    ExpectRectangle(form.Shape3, 40, 60, 150, 195);
+    EXPECT_EQ(form.CropStartX, Variant(40.0F));
+}
+
+TEST_F(SamplingCropTest, TheRightButtonLeavesTheFloorBar) {
+    form.ckFloorBar.Value = kChecked;
+    Press(40, 60, kRight);
+    EXPECT_EQ(Messages().size(), 1U);
+    EXPECT_FALSE(form.Shape3.Visible);
+    EXPECT_TRUE(form.CropStartX.IsEmpty());
+    EXPECT_TRUE(form.CropCancelled);
 }
 
 TEST_F(SamplingCropTest, WithTheFloorBarAPressMovesItsMarkerAndDrawsNoRectangle) {

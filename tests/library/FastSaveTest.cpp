@@ -272,6 +272,9 @@ TEST_F(FastSaveTest, NamesOfMoreThanEighteenCharactersAreShownInSmallType) {
     for (const auto& [name, size] : {std::pair{"fourteen chars", 10.0F},
                                      {"fifteen charact", 8.0F},
                                      {"x", 10.0F},
+                                     // Blanks count, though neither file nor caption has them.
+                                     {"blanks behind   ", 8.0F},
+                                     {"   blanks before", 8.0F},
                                      // Fourteen characters in twenty-eight bytes.
                                      {"\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4\xC3"
                                       "\xA4\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4",

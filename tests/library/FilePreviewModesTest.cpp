@@ -107,6 +107,67 @@ TEST_P(FileClickModesTest, FileBecomesTheSourceUnlessNothingIsOpened) {
 INSTANTIATE_TEST_SUITE_P(Modes, FileClickModesTest, ::testing::ValuesIn(kModes),
                          [](const auto& row) { return std::string(row.param.name); });
 
+TEST_P(FileClickModesTest, FileThatCannotBeLoadedStillGivesThePreviewItsSize) {
+    program.loader.pictures[kArt + "\\Art_12.jpg"] = Picture();
+    form.Imagex.Move(0, 0, 10, 20);
+    program.ClickFile("Art_12.jpg");
+    EXPECT_EQ(form.Imagex.Width(), GetParam().noOpen ? 10 : 3135);
+    EXPECT_EQ(form.Imagex.Height(), GetParam().noOpen ? 20 : 1575);
+}
+
+class FileClickWithoutOpeningTest : public ::testing::Test {
+protected:
+    FileClickWithoutOpeningTest() {
+        program.AddPicture(kArt, "Art_12.jpg", 40, 30);
+        program.StartIn(kArt);
+        form.ckNoOpen.Value = kChecked;
+    }
+    LibraryProgram program;
+    FrmPicX& form = program.form;
+    Picture former = ChartPicture(9, 9);
+};
+
+TEST_F(FileClickWithoutOpeningTest, LeavesThePattern) {
+    form.Combo5.Text = "*.bmp";
+    program.ClickFile("Art_12.jpg");
+    EXPECT_EQ(form.File5.Pattern(), "*.jpg");
+    EXPECT_EQ(form.File5.FileName(), "Art_12.jpg");
+}
+
+TEST_F(FileClickWithoutOpeningTest, LeavesPreviewAndThumbnail) {
+    form.Imagex.Move(0, 0, 10, 20);
+    form.Imagex.Stretch = false;
+    form.Image1.Move(0, 0, 30, 40);
+    form.Image1.Picture = former;
+    form.picSmall.Picture = ChartPicture(200, 70);
+    program.ClickFile("Art_12.jpg");
+    EXPECT_EQ(form.Imagex.Width(), 10);
+    EXPECT_EQ(form.Imagex.Height(), 20);
+    EXPECT_FALSE(form.Imagex.Stretch());
+    EXPECT_EQ(form.Image1.Width(), 30);
+    EXPECT_EQ(form.Image1.Height(), 40);
+    EXPECT_TRUE(form.Image1.Picture().SharesPixelsWith(former));
+}
+
+TEST_F(FileClickWithoutOpeningTest, LeavesThePixelArrays) {
+    form.FXSource.SizeFor(7, 5);
+    form.FXDest.SizeFor(6, 4);
+    form.FXDest.bytes.At(0, 0, 0) = 99;
+    program.ClickFile("Art_12.jpg");
+    EXPECT_EQ(form.FXSource.info.bmWidth, 7);
+    EXPECT_EQ(form.FXDest.info.bmWidth, 6);
+    EXPECT_EQ(form.FXDest.bytes.At(0, 0, 0), 99);
+}
+
+TEST_F(FileClickWithoutOpeningTest, LeavesTheCanvasAlsoWhereTheFormIsIt) {
+    form.ckUseFormCanvas.Value = kChecked;
+    form.PicImage.Picture = former;
+    form.Picture3.Picture = former;
+    program.ClickFile("Art_12.jpg");
+    EXPECT_TRUE(form.PicImage.Picture().SharesPixelsWith(former));
+    EXPECT_TRUE(form.Picture3.Picture().SharesPixelsWith(former));
+}
+
 // The gradient panel with a file standing in for its second picture.
 
 class FileClickForGradientTest : public ::testing::Test {
@@ -157,6 +218,21 @@ TEST_F(FileClickForGradientTest, LeavesNameSourceAndShownPath) {
     EXPECT_TRUE(form.ClipboardIsSource);
     EXPECT_EQ(form.lblPubPath.Caption(), "");
     EXPECT_EQ(form.CurrentImagePath.Text(), kArt + "\\Art_12.jpg");
+}
+
+TEST_F(FileClickForGradientTest, LeavesPatternCounterAndThumbnail) {
+    form.ckGetCount.Value = kChecked;
+    form.TextLoops.Text = "1";
+    form.Combo5.Text = "*.bmp";
+    form.Image1.Move(0, 0, 30, 40);
+    form.Image1.Picture = former;
+    program.ClickFile("Art_12.jpg");
+    EXPECT_EQ(form.File5.Pattern(), "*.jpg");
+    EXPECT_EQ(form.File5.FileName(), "Art_12.jpg");
+    EXPECT_EQ(form.TextLoops.Text(), "1");
+    EXPECT_EQ(form.Image1.Width(), 30);
+    EXPECT_EQ(form.Image1.Height(), 40);
+    EXPECT_TRUE(form.Image1.Picture().SharesPixelsWith(former));
 }
 
 TEST_F(FileClickForGradientTest, SwitchesTheFileImageOffAndOnAgain) {

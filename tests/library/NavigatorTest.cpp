@@ -188,6 +188,15 @@ TEST_F(NavigatorTest, CountingInAnEmptyFolderShowsZero) {
     EXPECT_EQ(form.TextLoops.Text(), "0");
 }
 
+TEST_F(NavigatorTest, CountingInAnEmptyFolderLeavesTheBoxWhileNothingIsIncremented) {
+    program.Start();
+    form.TextLoops.Text = "9";
+    form.ckIncrement.Value = kUnchecked;
+    form.ckGetCount.Value = kChecked;
+    form.Dir5.SetPath(kArt);
+    EXPECT_EQ(form.TextLoops.Text(), "9");
+}
+
 TEST_F(NavigatorTest, CountingInAFolderWithoutNumbersLeavesTheBox) {
     program.AddFiles(kArt, {"a.jpg"});
     program.Start();
