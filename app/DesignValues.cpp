@@ -82,11 +82,7 @@ void SetSliders(FrmPicX& form) {
     form.BS.Value = 555;
     for (ScrollBar* slider : {&form.hStart, &form.hEnd})
         slider->LargeChange = 20;
-    form.hEnd.Value = 32767;
-    // The range of both is the result box's, from the start on: the end slider stands at the far edge.
-    const auto range = ToInteger(double{form.picDest.ScaleWidth()});
-    form.hStart.Max = range;
-    form.hEnd.Max = range;
+    form.hEnd.Value = 32767; // beyond any picture: the first range that it is given takes it to the far edge
 }
 
 void SetChoices(FrmPicX& form) {
@@ -114,9 +110,6 @@ void SetSizes(FrmPicX& form) {
          {&form.pic1grad, &form.pic2grad, &form.picDest, &form.Picture5, &form.PicSwap1, &form.PicSwap2}) {
         box->Move(0, 0, 1020 * kTwipsPerPixel, 1020 * kTwipsPerPixel);
     }
-    // Wider than any picture that is likely to come, so that the end slider, which starts at this width,
-    // still stands at the far edge when the picture does.
-    form.picDest.Move(0, 0, 4096 * kTwipsPerPixel, 256 * kTwipsPerPixel);
     form.Picture2.Move(0, 0, 245, 200);
     form.Frame4.Move(338, -1, 270, 441);
     form.Frame5.Move(-36, 440, 780, 62);

@@ -37,9 +37,9 @@ TEST_F(ImageGradientTest, StartsWithRangesChecksAndChoicesOfItsDesign) {
     EXPECT_EQ(form.chkStretch.Value, kChecked);
     EXPECT_EQ(form.hStart.LargeChange, 20);
     EXPECT_EQ(form.hEnd.LargeChange, 20);
-    EXPECT_EQ(form.hStart.Max, form.picDest.ScaleWidth());
-    EXPECT_EQ(form.hEnd.Max, form.picDest.ScaleWidth());
-    EXPECT_EQ(form.hEnd.Value, form.hEnd.Max());
+    EXPECT_EQ(form.hStart.Max, 32767);
+    EXPECT_EQ(form.hEnd.Max, 32767);
+    EXPECT_EQ(form.hEnd.Value, 32767);
     EXPECT_EQ(form.cmbDirection.Rows(), (std::vector<std::string>{"Horizontal", "Vertical"}));
     EXPECT_EQ(form.cmbDirection.ListIndex(), kNoRow);
 }
