@@ -4,6 +4,7 @@
 #include "desktop/look/Contrast.h"
 #include "desktop/look/ElidedLabel.h"
 #include "desktop/look/Tokens.h"
+#include "desktop/window/EffectButton.h"
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
@@ -189,7 +190,7 @@ std::vector<std::string> FaintInks(QWidget& window) {
         if (!text.isEmpty())
             inks.Expect(*widget, InkArea(*widget), look::kReadableText, text);
         else if (const auto* button = qobject_cast<const QToolButton*>(widget);
-                 button && !button->icon().isNull())
+                 button && !button->icon().isNull() && !qobject_cast<const EffectButton*>(button))
             inks.Expect(*widget, InkArea(*widget), look::kReadableShape, button->toolTip());
     }
     return inks.Faint();

@@ -21,7 +21,7 @@ enum class Texts { OfTheProgram, AlsoLongOnes };
 std::vector<std::string> CutOffTexts(const QWidget& window, Texts texts);
 
 // Texts below 4.5 to 1 and drawings on buttons below 3 to 1, by the pixels that are painted. What is disabled
-// may be faint.
+// may be faint, and so may what an effect makes of its picture.
 std::vector<std::string> FaintInks(QWidget& window);
 
 } // namespace mirelle::test
