@@ -70,7 +70,8 @@ private:
                             document_.pageSize().height());
         painter.save();
         painter.translate(0, -window.top());
-        document_.drawContents(&painter, window);
+        // A point less: a picture on top of the next page begins a part of a point ahead of it.
+        document_.drawContents(&painter, window.adjusted(0, 0, 0, -1));
         painter.restore();
     }
 
