@@ -23,9 +23,9 @@ void ImageGradient::StartGradient(int index) {
     form_.optDirection(index).Value = true;
     form_.StoredCanvasPicture = form_.pic1grad.Picture;
     form_.StoredGradientPicture = form_.pic2grad.Picture;
-    StretchToFit(form_.pic1grad, form_.pic1grad.Picture);
-    StretchToFit(form_.pic2grad, form_.pic2grad.Picture);
-    StretchToFit(form_.picDest, form_.pic1grad.Picture);
+    stretchToFit_(form_.pic1grad, form_.pic1grad.Picture);
+    stretchToFit_(form_.pic2grad, form_.pic2grad.Picture);
+    stretchToFit_(form_.picDest, form_.pic1grad.Picture);
     form_.chkStretch.Click();
     if (form_.optDirection(kVertical).Value) form_.cmbDirection.SetListIndex(kVertical);
     if (form_.optDirection(kHorizontal).Value) form_.cmbDirection.SetListIndex(kHorizontal);
@@ -45,8 +45,8 @@ void ImageGradient::RestorePictures() {
     form_.pic1grad.Picture = form_.StoredCanvasPicture;
     form_.pic2grad.Picture = form_.StoredGradientPicture;
     if (form_.chkStretch.Value == kChecked) {
-        StretchToFit(form_.pic1grad, form_.pic1grad.Picture);
-        StretchToFit(form_.pic2grad, form_.pic2grad.Picture);
+        stretchToFit_(form_.pic1grad, form_.pic1grad.Picture);
+        stretchToFit_(form_.pic2grad, form_.pic2grad.Picture);
     }
     ShowGradient();
     form_.picDest.Refresh();
@@ -56,8 +56,8 @@ void ImageGradient::ShowGradient() {
     form_.picDest.Cls();
     form_.pic1grad.Picture = form_.StoredCanvasPicture;
     if (form_.chkStretch.Value == kChecked) {
-        StretchToFit(form_.pic1grad, form_.StoredCanvasPicture);
-        StretchToFit(form_.pic2grad, form_.StoredGradientPicture);
+        stretchToFit_(form_.pic1grad, form_.StoredCanvasPicture);
+        stretchToFit_(form_.pic2grad, form_.StoredGradientPicture);
     }
     DrawGradient();
     form_.PicImage.Refresh();
@@ -79,17 +79,6 @@ void ImageGradient::DrawGradient() {
     ResumeNext([this] { form_.PicImage.Picture = form_.picDest.Image(); });
     form_.PicImage.Refresh();
     ResumeNext([this] { form_.Picture = form_.picDest.Image(); });
-}
-
-void StretchToFit(PictureBox& target, const Picture& picture) {
-    const Picture source = picture; // the target's own picture may be what it is painted with
-    if (source.Width() == target.PixelWidth() && source.Height() == target.PixelHeight()) {
-        target.Picture = source; // painting it would only copy it
-        return;
-    }
-    ResumeNext([&] { target.StretchPicture(source); });
-    ResumeNext([&] { target.Picture = target.Image(); });
-    target.Refresh();
 }
 
 } // namespace mirelle

@@ -2,12 +2,11 @@
 // canvas.
 #pragma once
 
-#include "forms/Picture.h"
+#include "gradient/StretchToFit.h"
 
 namespace mirelle {
 
 class FrmPicX;
-class PictureBox;
 
 class ImageGradient {
 public:
@@ -21,9 +20,7 @@ private:
     void DrawGradient();
 
     FrmPicX& form_;
+    StretchToFit stretchToFit_;
 };
-
-// Paints the picture over the whole box, stretched, and makes that the box's picture.
-void StretchToFit(PictureBox& target, const Picture& picture);
 
 } // namespace mirelle

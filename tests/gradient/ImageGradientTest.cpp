@@ -99,6 +99,16 @@ TEST_F(ImageGradientTest, StretchFitsASmallerPictureOverTheResult) {
     EXPECT_TRUE(form.StoredGradientPicture.SharesPixelsWith(small));
 }
 
+TEST_F(ImageGradientTest, AStretchedPictureIsMadeOnceForAllStepsOfASlider) {
+    const Picture small = ChartPicture(30, 20, 90);
+    Show(canvas, small);
+    form.cmdGradV(1).UserClick();
+    const Picture stretched = form.pic2grad.Picture;
+    form.hStart.UserDrag(10);
+    form.hStart.UserDrag(20);
+    EXPECT_TRUE(form.pic2grad.Picture().SharesPixelsWith(stretched));
+}
+
 TEST_F(ImageGradientTest, WithoutStretchTheSmallerPictureKeepsItsSize) {
     const Picture small = ChartPicture(30, 20, 90);
     form.chkStretch.Value = kUnchecked; // ahead of the pictures: it restores the stored ones, none yet
