@@ -51,8 +51,8 @@ void GradientSources::Swap(int index) {
 
 void GradientSources::SwapPictures() {
     for (PictureBox* box : {&form_.PicSwap1, &form_.PicSwap2}) {
-        box->Height = form_.Picture4.Height * kTwipsPerPixel;
-        box->Width = form_.Picture4.Width * kTwipsPerPixel;
+        ResumeNext([&] { box->Height = form_.Picture4.Height * kTwipsPerPixel; });
+        ResumeNext([&] { box->Width = form_.Picture4.Width * kTwipsPerPixel; });
     }
     form_.PicSwap1.Picture = form_.pic1grad.Picture;
     form_.PicSwap2.Picture = form_.pic2grad.Picture;
