@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cstdio>
+#include <cstdlib>
 
 namespace mirelle::x11 {
 namespace {
@@ -20,6 +22,13 @@ std::atomic<ErrorHandler> fallback = nullptr;
 // Properties beyond this many 32-bit values (a list of 65536 windows, a title of 256 KB) are cut.
 constexpr long kLongestProperty = 65536;
 
+// The server has gone. Xlib would run the program's end on whichever thread noticed, the watch's too, while
+// the window's thread goes on in what is being taken apart.
+int EndAtOnce(Display*) {
+    std::fputs("The display has gone.\n", stderr);
+    std::_Exit(EXIT_FAILURE);
+}
+
 } // namespace
 
 std::unique_ptr<Connection> Connection::Open() {
@@ -28,6 +37,7 @@ std::unique_ptr<Connection> Connection::Open() {
     if (threads == 0) return nullptr;
     Display* display = XOpenDisplay(nullptr);
     if (display == nullptr) return nullptr;
+    XSetIOErrorHandler(&EndAtOnce);
     return std::unique_ptr<Connection>(new Connection(display));
 }
 

@@ -16,7 +16,7 @@ namespace mirelle::x11 {
 
 class Connection {
 public:
-    // To the server that DISPLAY names; nothing where there is none.
+    // To the server that DISPLAY names; nothing where there is none. When the server goes, the program ends.
     static std::unique_ptr<Connection> Open();
     ~Connection();
     Connection(const Connection&) = delete;
