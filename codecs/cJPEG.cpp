@@ -11,6 +11,7 @@
 #include "codecs/jpeg/Tables.h"
 #include "codecs/jpeg/Transform.h"
 #include "forms/Numbers.h"
+#include "forms/OutOfMemory.h"
 
 #include <limits>
 #include <optional>
@@ -60,7 +61,7 @@ void cJPEG::Quality(int value) {
 }
 
 void cJPEG::SetSamplingFrequencies(int H1, int V1, int H2, int V2, int H3, int V3) {
-    jpeg::RaisingOutOfMemory([&] { jpeg::SetSamplingFrequencies(frame_, H1, V1, H2, V2, H3, V3); });
+    WithinMemory([&] { jpeg::SetSamplingFrequencies(frame_, H1, V1, H2, V2, H3, V3); });
 }
 
 void cJPEG::Comment(const std::string& value) {
@@ -99,9 +100,7 @@ void cJPEG::TransformPlanes(Planes& planes, const std::vector<jpeg::PlaneSize>& 
 
 int cJPEG::SampleDATA(std::span<const std::uint8_t> data, int columns, int rows, int width, int height, int x,
                       int y) {
-    return jpeg::RaisingOutOfMemory([&] {
-        return SampleArray({data, columns, rows}, {x, y, width, height});
-    });
+    return WithinMemory([&] { return SampleArray({data, columns, rows}, {x, y, width, height}); });
 }
 
 int cJPEG::SampleArray(const jpeg::PixelData& data, const PixelArea& picture) {
@@ -117,7 +116,7 @@ int cJPEG::SampleArray(const jpeg::PixelData& data, const PixelArea& picture) {
 }
 
 int cJPEG::SampleHDC(const Bitmap& surface, int width, int height, int x, int y) {
-    return jpeg::RaisingOutOfMemory([&] { return SampleSurface(surface, {x, y, width, height}); });
+    return WithinMemory([&] { return SampleSurface(surface, {x, y, width, height}); });
 }
 
 int cJPEG::SampleSurface(const Bitmap& surface, const PixelArea& picture) {
@@ -136,7 +135,7 @@ int cJPEG::SaveFileJPG(const std::string& fileName, FileSystem& files) {
     if (fileName.empty()) return kNoFileName;
     if (files.FileExists(fileName)) return kFileExists;
     const auto file = [&] { return MakeFile(); };
-    files.WriteFile(fileName, jpeg::RaisingOutOfMemory(file).Written());
+    files.WriteFile(fileName, WithinMemory(file).Written());
     return kDone;
 }
 

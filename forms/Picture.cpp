@@ -14,28 +14,17 @@ std::size_t PixelCount(int width, int height) {
     return static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
 }
 
-template <class Make>
-void RaisingOutOfMemory(Make make) {
-    try {
-        make();
-    } catch (const std::bad_alloc&) {
-        throw RunTimeError(ErrorNumber::OutOfMemory);
-    } catch (const std::length_error&) {
-        throw RunTimeError(ErrorNumber::OutOfMemory);
-    }
-}
-
 } // namespace
 
 Bitmap::Bitmap(int width, int height, Pixel fill) : width_(width), height_(height) {
     const std::size_t count = PixelCount(width, height);
-    RaisingOutOfMemory([&] { pixels_.assign(count, fill); });
+    WithinMemory([&] { pixels_.assign(count, fill); });
 }
 
 Bitmap Bitmap::FromRows(int width, int height, const FillRow& fill) {
     Bitmap bitmap;
     const std::size_t count = PixelCount(width, height);
-    RaisingOutOfMemory([&] { bitmap.pixels_.reserve(count); });
+    WithinMemory([&] { bitmap.pixels_.reserve(count); });
     bitmap.width_ = width;
     bitmap.height_ = height;
     for (int y = 0; y < height; ++y) {

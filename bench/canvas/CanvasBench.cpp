@@ -7,16 +7,15 @@
 // the paste over that (aim: at most 1); `memory_ratio` is what the program's memory grew by at the first
 // paste, in pictures of 33 MB (aim: at most 3, with the one that the clipboard itself holds). MouseMove: one
 // move while a crop is drawn; the same figure for every size of the picture shows that nothing grows with it.
+#include "bench/Measuring.h"
 #include "desktop/system/QtClipboard.h"
 #include "tests/support/TestPictures.h"
 #include "tests/support/TestProgram.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <cstring>
 #include <fstream>
-#include <functional>
 #include <memory>
 
 #include <QClipboard>
@@ -32,13 +31,6 @@ constexpr int kWidth = 3840;
 constexpr int kHeight = 2160;
 constexpr std::size_t kPictureBytes = std::size_t{4} * kWidth * kHeight;
 constexpr int kLeftButton = 1;
-
-double Seconds(const std::function<void()>& work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    benchmark::ClobberMemory();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
 
 double Median(std::vector<double> times) {
     std::ranges::sort(times);

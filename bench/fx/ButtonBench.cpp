@@ -7,17 +7,14 @@
 //
 //     cmake --preset bench && cmake --build build/bench --target fx_button_bench &&
 //     build/bench/bench/fx/fx_button_bench
+#include "bench/Measuring.h"
 #include "fx/KernelTable.h"
 #include "tests/support/TestProgram.h"
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <bit>
-#include <chrono>
-#include <functional>
 #include <limits>
-#include <random>
 #include <string>
 
 namespace mirelle::test {
@@ -25,21 +22,6 @@ namespace {
 
 constexpr double kTimesTheKernel = 2;
 constexpr double kMostMilliseconds = 50;
-
-Bitmap Noise(int width, int height) {
-    Bitmap bitmap(width, height);
-    std::mt19937 random(1);
-    for (Pixel& pixel : bitmap.Pixels())
-        pixel = std::bit_cast<Pixel>(static_cast<std::uint32_t>(random()));
-    return bitmap;
-}
-
-double Seconds(const std::function<void()>& work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    benchmark::ClobberMemory();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
 
 void Paste(TestProgram& program, const Picture& picture) {
     program.desktop.clipboard.bitmap = picture;

@@ -6,6 +6,7 @@
 // the picture.
 //
 //     cmake --preset bench && cmake --build build/bench --target fx_bench && build/bench/bench/fx/fx_bench
+#include "bench/Measuring.h"
 #include "fx/Contrast.h"
 #include "fx/KernelTable.h"
 #include "fx/PointFX.h"
@@ -13,14 +14,11 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <bit>
-#include <chrono>
 #include <cstring>
 #include <functional>
 #include <limits>
 #include <map>
 #include <memory>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -35,14 +33,6 @@ constexpr double kNearCopy = 1.3;
 constexpr double kArithmetic = 2.0;
 constexpr double kNeighbours = 3.0;
 
-Bitmap Noise(int width, int height) {
-    Bitmap bitmap(width, height);
-    std::mt19937 random(1);
-    for (Pixel& pixel : bitmap.Pixels())
-        pixel = std::bit_cast<Pixel>(static_cast<std::uint32_t>(random()));
-    return bitmap;
-}
-
 // An effect from a source to a destination of the same size.
 using Effect = std::function<void(const Bitmap& source, Bitmap& destination)>;
 
@@ -52,13 +42,6 @@ struct Case {
     Effect fast;
     Effect plain;
 };
-
-double Seconds(const std::function<void()>& work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    benchmark::ClobberMemory();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
 
 void Measure(benchmark::State& state, const Case& measured) {
     static const Bitmap source = Noise(kWidth, kHeight);

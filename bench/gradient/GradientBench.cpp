@@ -7,6 +7,7 @@
 //
 //     cmake --preset bench && cmake --build build/bench --target gradient_bench &&
 //     build/bench/bench/gradient/gradient_bench
+#include "bench/Measuring.h"
 #include "forms/AlphaBlend.h"
 #include "gradient/GradientBands.h"
 #include "tests/support/TestProgram.h"
@@ -14,11 +15,8 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <bit>
-#include <chrono>
 #include <functional>
 #include <limits>
-#include <random>
 #include <string>
 
 namespace mirelle::test {
@@ -33,21 +31,6 @@ struct Size {
 };
 constexpr Size kLarge{3840, 2160};
 constexpr Size kScreen{1920, 1080};
-
-Bitmap Noise(Size size, std::uint32_t seed) {
-    Bitmap bitmap(size.width, size.height);
-    std::mt19937 random(seed);
-    for (Pixel& pixel : bitmap.Pixels())
-        pixel = std::bit_cast<Pixel>(static_cast<std::uint32_t>(random()));
-    return bitmap;
-}
-
-double Seconds(const std::function<void()>& work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    benchmark::ClobberMemory();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
 
 void BlendWhole(Bitmap& destination, const Bitmap& source) {
     const PixelArea all{0, 0, destination.Width(), destination.Height()};
@@ -67,8 +50,8 @@ void Tell(benchmark::State& state, const Shortest& shortest) {
 
 // The bands alone, drawn over a picture in memory, from one slider place to another along the axis.
 void DrawTheBands(benchmark::State& state, int direction, double from, double to) {
-    const Bitmap source = Noise(kLarge, 1);
-    Bitmap destination = Noise(kLarge, 2);
+    const Bitmap source = Noise(kLarge.width, kLarge.height, 1);
+    Bitmap destination = Noise(kLarge.width, kLarge.height, 2);
     const double length = direction == kHorizontal ? kLarge.width : kLarge.height;
     const BandSizes sizes{double{kLarge.width}, double{kLarge.height}, double{kLarge.width},
                           double{kLarge.height}};
@@ -98,11 +81,11 @@ void MoveTheSlider(benchmark::State& state, int direction, Size size) {
         box->Width = static_cast<float>(size.width) * kTwipsPerPixel;
         box->Height = static_cast<float>(size.height) * kTwipsPerPixel;
     }
-    form.pic1grad.Picture = Picture(Noise(size, 3));
-    form.pic2grad.Picture = Picture(Noise(size, 4));
+    form.pic1grad.Picture = Picture(Noise(size.width, size.height, 3));
+    form.pic2grad.Picture = Picture(Noise(size.width, size.height, 4));
     form.cmdGradV(direction).UserClick();
-    const Bitmap source = Noise(size, 5);
-    Bitmap destination = Noise(size, 6);
+    const Bitmap source = Noise(size.width, size.height, 5);
+    Bitmap destination = Noise(size.width, size.height, 6);
     Shortest shortest;
     std::int16_t place = 0;
     for (auto _ : state) {

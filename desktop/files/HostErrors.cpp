@@ -1,54 +1,34 @@
 #include "desktop/files/HostErrors.h"
 
-#include "desktop/files/HostFiles.h"
-#include "forms/RunTimeError.h"
+#include "desktop/files/ErrorTable.h"
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 
 namespace mirelle::host {
 namespace {
 
-struct Row {
-    int systemError;
-    ErrorNumber reading;
-    ErrorNumber writing;
-    ErrorNumber deleting;
-};
-
 using enum ErrorNumber;
 
-// ENOENT, ELOOP and ENAMETOOLONG while reading are 53 only where the folder is there; see below.
+// ENOENT, ELOOP and ENAMETOOLONG while reading are 53 only where the folder is there; RaiseByTable sees to
+// it.
 constexpr std::array kRows = {
-    Row{ENOENT, FileNotFound, PathNotFound, FileNotFound},
-    Row{ELOOP, FileNotFound, PathNotFound, FileNotFound},
-    Row{ENAMETOOLONG, FileNotFound, PathFileAccess, FileNotFound},
-    Row{ENOTDIR, PathNotFound, PathNotFound, FileNotFound},
-    Row{EACCES, PathFileAccess, PathFileAccess, PathFileAccess},
-    Row{EPERM, PathFileAccess, PathFileAccess, PathFileAccess},
-    Row{EISDIR, PathFileAccess, PathFileAccess, FileNotFound},
-    Row{ENXIO, PathFileAccess, PathFileAccess, PathFileAccess},
-    Row{EROFS, PermissionDenied, PermissionDenied, PermissionDenied},
-    Row{EBUSY, PermissionDenied, PermissionDenied, PermissionDenied},
-    Row{ETXTBSY, PermissionDenied, PermissionDenied, PermissionDenied},
-    Row{ENOSPC, DiskFull, DiskFull, DiskFull},
-    Row{EDQUOT, DiskFull, DiskFull, DiskFull},
-    Row{EFBIG, DiskFull, DiskFull, DiskFull},
-    Row{ENOMEM, OutOfMemory, OutOfMemory, OutOfMemory},
+    ErrorRow{ENOENT, FileNotFound, PathNotFound, FileNotFound},
+    ErrorRow{ELOOP, FileNotFound, PathNotFound, FileNotFound},
+    ErrorRow{ENAMETOOLONG, FileNotFound, PathFileAccess, FileNotFound},
+    ErrorRow{ENOTDIR, PathNotFound, PathNotFound, FileNotFound},
+    ErrorRow{EACCES, PathFileAccess, PathFileAccess, PathFileAccess},
+    ErrorRow{EPERM, PathFileAccess, PathFileAccess, PathFileAccess},
+    ErrorRow{EISDIR, PathFileAccess, PathFileAccess, FileNotFound},
+    ErrorRow{ENXIO, PathFileAccess, PathFileAccess, PathFileAccess},
+    ErrorRow{EROFS, PermissionDenied, PermissionDenied, PermissionDenied},
+    ErrorRow{EBUSY, PermissionDenied, PermissionDenied, PermissionDenied},
+    ErrorRow{ETXTBSY, PermissionDenied, PermissionDenied, PermissionDenied},
+    ErrorRow{ENOSPC, DiskFull, DiskFull, DiskFull},
+    ErrorRow{EDQUOT, DiskFull, DiskFull, DiskFull},
+    ErrorRow{EFBIG, DiskFull, DiskFull, DiskFull},
+    ErrorRow{ENOMEM, OutOfMemory, OutOfMemory, OutOfMemory},
 };
-
-ErrorNumber NumberOf(const Row& row, Action action) {
-    switch (action) {
-    case Action::Read:
-        return row.reading;
-    case Action::Write:
-        return row.writing;
-    case Action::Delete:
-        return row.deleting;
-    }
-    return DeviceIOError;
-}
 
 std::string FolderOf(const std::string& path) {
     const std::size_t separator = path.rfind('/');
@@ -59,12 +39,7 @@ std::string FolderOf(const std::string& path) {
 } // namespace
 
 void RaiseSystemError(int systemError, Action action, const std::string& path) {
-    const auto* row = std::find_if(kRows.begin(), kRows.end(), [systemError](const Row& each) {
-        return each.systemError == systemError;
-    });
-    ErrorNumber number = row != kRows.end() ? NumberOf(*row, action) : DeviceIOError;
-    if (action == Action::Read && number == FileNotFound && !IsFolder(FolderOf(path))) number = PathNotFound;
-    throw RunTimeError(number);
+    RaiseByTable(kRows, systemError, action, FolderOf(path));
 }
 
 } // namespace mirelle::host

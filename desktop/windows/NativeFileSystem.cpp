@@ -105,39 +105,11 @@ bool NativeFileSystem::IsHidden(const std::string& path) const {
     return FileExists(path) && host::IsHiddenFile(AbsolutePath(path));
 }
 
-std::vector<std::string> NativeFileSystem::FileNames(const std::string& folder) const {
-    return NamesIn(folder, host::EntryKind::File);
-}
-
-std::vector<std::string> NativeFileSystem::FolderNames(const std::string& folder) const {
-    return NamesIn(folder, host::EntryKind::Folder);
-}
-
 std::vector<std::string> NativeFileSystem::NamesIn(const std::string& folder, host::EntryKind kind) const {
     const std::string place = AbsolutePath(folder);
     if (place.empty() || !IsInReach(place)) throw RunTimeError(ErrorNumber::PathNotFound);
     const auto follows = [&](const std::string& name) { return IsInReach(place + '\\' + name); };
     return host::EntryNames(place, kind, follows);
-}
-
-std::vector<std::uint8_t> NativeFileSystem::ReadFile(const std::string& path) const {
-    return host::ReadWholeFile(Checked(path, ErrorNumber::PathNotFound));
-}
-
-void NativeFileSystem::WriteFile(const std::string& path, std::span<const std::uint8_t> bytes) {
-    host::ReplaceFile(Checked(path, ErrorNumber::PathNotFound), bytes);
-}
-
-void NativeFileSystem::OverwriteStart(const std::string& path, std::span<const std::uint8_t> bytes) {
-    host::OverwriteFileStart(Checked(path, ErrorNumber::PathNotFound), bytes);
-}
-
-void NativeFileSystem::DeleteFile(const std::string& path) {
-    host::DeleteRegularFile(Checked(path, ErrorNumber::FileNotFound));
-}
-
-void NativeFileSystem::MakeWritable(const std::string& path) {
-    host::GiveWritePermission(Checked(path, ErrorNumber::FileNotFound));
 }
 
 std::string NativeFileSystem::Checked(const std::string& path, ErrorNumber outOfReach) const {
@@ -147,10 +119,6 @@ std::string NativeFileSystem::Checked(const std::string& path, ErrorNumber outOf
     if (!IsInReach(absolute)) throw RunTimeError(outOfReach);
     // A file's name doesn't end in a separator.
     return IsSeparator(path.back()) ? absolute + '\\' : absolute;
-}
-
-bool NativeFileSystem::IsInReach(const std::string& path) const {
-    return fence_.empty() || !host::RealPathBelow(fence_, path).empty();
 }
 
 } // namespace mirelle
