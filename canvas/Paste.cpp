@@ -61,8 +61,7 @@ void Paste::PasteIntoGradient() {
     TakeBitmap(form_.Picture4);
     form_.Picture4.Refresh();
     for (PictureBox* box : {&form_.pic1grad, &form_.pic2grad, &form_.picDest}) {
-        ResumeNext([&] { box->Height = form_.Picture4.Height * kTwipsPerPixel; });
-        ResumeNext([&] { box->Width = form_.Picture4.Width * kTwipsPerPixel; });
+        box->SizeInPixels(form_.Picture4.PixelWidth(), form_.Picture4.PixelHeight());
     }
     TakeBitmap(form_.pic1grad);
     form_.cmdGradV(1).Click();

@@ -51,8 +51,7 @@ void GradientSources::Swap(int index) {
 
 void GradientSources::SwapPictures() {
     for (PictureBox* box : {&form_.PicSwap1, &form_.PicSwap2}) {
-        ResumeNext([&] { box->Height = form_.Picture4.Height * kTwipsPerPixel; });
-        ResumeNext([&] { box->Width = form_.Picture4.Width * kTwipsPerPixel; });
+        box->SizeInPixels(form_.Picture4.PixelWidth(), form_.Picture4.PixelHeight());
     }
     form_.PicSwap1.Picture = form_.pic1grad.Picture;
     form_.PicSwap2.Picture = form_.pic2grad.Picture;

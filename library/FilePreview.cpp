@@ -118,8 +118,7 @@ void FilePreview::LoadCanvas(LoadingOnce& file) {
 // Picture4 measures in pixels, the gradient's boxes are placed in twips.
 void FilePreview::SizeGradientBoxes() {
     for (PictureBox* box : {&form_.pic1grad, &form_.pic2grad, &form_.picDest}) {
-        ResumeNext([&] { box->Height = form_.Picture4.Height * kTwipsPerPixel; });
-        ResumeNext([&] { box->Width = form_.Picture4.Width * kTwipsPerPixel; });
+        box->SizeInPixels(form_.Picture4.PixelWidth(), form_.Picture4.PixelHeight());
     }
 }
 
