@@ -1,0 +1,15 @@
+// The rows of the table, a function a subject.
+#pragma once
+
+#include "bench/Measure.h"
+
+namespace mirelle::bench {
+
+Group JpegRows();
+Group KernelRows();
+Group PointRows();
+Group ContrastRows();
+Group EffectClickRows();
+Group SmudgerRows();
+
+} // namespace mirelle::bench

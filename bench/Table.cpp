@@ -1,0 +1,108 @@
+#include "bench/Table.h"
+
+#include "bench/peers/Peers.h"
+#include "bench/Rounds.h"
+
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <ctime>
+#include <fstream>
+
+#include <unistd.h>
+
+namespace mirelle::bench {
+namespace {
+
+std::string Processor() {
+    std::ifstream table("/proc/cpuinfo");
+    for (std::string line; std::getline(table, line);) {
+        if (line.starts_with("model name")) return line.substr(line.find(':') + 2);
+    }
+    return "unknown processor";
+}
+
+std::string Now() {
+    const std::time_t now = std::time(nullptr);
+    std::array<char, 32> text{};
+    std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M", std::localtime(&now));
+    return text.data();
+}
+
+// Three digits that count, in milliseconds or microseconds.
+std::string TimeText(double seconds) {
+    if (std::isinf(seconds)) return "-";
+    const bool small = seconds < 1e-4;
+    const double value = seconds * (small ? 1e6 : 1e3);
+    const int digits = value < 10 ? 2 : value < 100 ? 1 : 0;
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%.*f %s", digits, value, small ? "us" : "ms");
+    return text.data();
+}
+
+std::string RatioText(double ratio) {
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%.*f", ratio < 0.1 ? 3 : 2, ratio);
+    return text.data();
+}
+
+void PrintRow(const std::string& measure, const std::string& ours, const std::string& peer,
+              const std::string& theirs, const std::string& ratio, const std::string& aim,
+              const std::string& verdict) {
+    std::printf("%-44s %10s  %-34s %10s %7s %6s  %s\n", measure.c_str(), ours.c_str(), peer.c_str(),
+                theirs.c_str(), ratio.c_str(), aim.c_str(), verdict.c_str());
+    std::fflush(stdout);
+}
+
+} // namespace
+
+void Table::PrintHead() const {
+    std::printf("%s, %s, %ld cores, GCC %s\n", Now().c_str(), Processor().c_str(),
+                ::sysconf(_SC_NPROCESSORS_ONLN), __VERSION__);
+    for (const std::string& version : PeerVersions())
+        std::printf("beside: %s\n", version.c_str());
+    std::printf(
+        "Ours and what stands beside it take turns. The least wall time of each counts, and the ratio is "
+        "that of the least times.\n"
+        "One core: all threads of the program are kept on one core, unless a row says both cores.\n\n");
+    PrintRow("measure", "ours", "beside", "its time", "ratio", "aim", "");
+}
+
+void Table::PrintTitle(const std::string& title) const {
+    std::printf("\n%s\n", title.c_str());
+}
+
+void Table::Run(const Measure& measure, double seconds) {
+    const Contest contest = measure.prepare();
+    const Times times = RunRounds(contest, measure.cores, seconds);
+    for (std::size_t i = 0; i < contest.peers.size(); ++i) {
+        const Peer& peer = contest.peers[i];
+        const std::string aim = peer.aim > 0 ? RatioText(peer.aim) : "";
+        if (!peer.run) {
+            ++missing_;
+            PrintRow(measure.name, TimeText(times.ours), peer.name, "-", "-", aim, "not on this machine");
+            continue;
+        }
+        const double ratio = times.ours / times.peers[i];
+        const bool met = ratio <= peer.aim;
+        if (peer.aim > 0) {
+            ++aims_;
+            met_ += met ? 1 : 0;
+        }
+        PrintRow(measure.name, TimeText(times.ours), peer.name, TimeText(times.peers[i]), RatioText(ratio),
+                 aim, peer.aim > 0 ? met ? "met" : "MISSED" : "");
+    }
+    if (const std::string fault = contest.fault(); !fault.empty()) {
+        ++faults_;
+        std::printf("    FAULT: %s\n", fault.c_str());
+    }
+}
+
+void Table::PrintSum() const {
+    std::printf("\n%d of %d aims met", met_, aims_);
+    if (missing_ > 0) std::printf("; %d rows lack their peer on this machine", missing_);
+    if (faults_ > 0) std::printf("; %d RESULTS ARE WRONG", faults_);
+    std::printf(".\n");
+}
+
+} // namespace mirelle::bench

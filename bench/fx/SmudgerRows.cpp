@@ -1,0 +1,90 @@
+// The smudgers: all passes beside as many copies of the picture, and what a user's event waits for at most.
+#include "bench/Photograph.h"
+#include "bench/Rows.h"
+#include "fx/KernelTable.h"
+#include "tests/support/TestProgram.h"
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+
+namespace mirelle::bench {
+namespace {
+
+using test::TestProgram;
+using Smudger = CommandButton FrmPicX::*;
+
+constexpr double kTimesTheCopies = 2;
+constexpr double kUnfelt = 0.05; // seconds that nobody feels
+
+std::shared_ptr<TestProgram> ProgramWith(const Picture& picture) {
+    auto program = std::make_shared<TestProgram>();
+    program->desktop.clipboard.bitmap = picture;
+    program->form.Command5.UserClick();
+    return program;
+}
+
+std::string FaultOf(const TestProgram& program, Kernel kernel, int clicks) {
+    Bitmap expected = Photograph();
+    for (int pass = 0; pass < clicks * kSmudgerPasses; ++pass) {
+        Bitmap next(kWidth, kHeight);
+        (kFastKernels.*kernel)({expected.Pixels(), next.Pixels(), kWidth, kHeight}, {});
+        expected = std::move(next);
+    }
+    return program.form.PicImage.Picture().Pixels() == expected ? "" : "not so many passes of the kernel";
+}
+
+Contest AllPasses(Smudger smudger, Kernel kernel) {
+    const auto program = ProgramWith(PhotographPicture());
+    const auto clicks = std::make_shared<int>(0);
+    const auto copy = std::make_shared<Bitmap>(kWidth, kHeight);
+    return {.ours = Timed([=] {
+                ((*program).form.*smudger).UserClick();
+                ++*clicks;
+            }),
+            .peers = {{"151 copies of the picture", kTimesTheCopies, Timed([copy] {
+                           for (int pass = 0; pass < kSmudgerPasses; ++pass) {
+                               std::memcpy(copy->Pixels().data(), Photograph().Pixels().data(),
+                                           kPictureBytes);
+                               Keep(copy->Pixels().data());
+                           }
+                       })}},
+            .fault = [=] { return *clicks > 5 ? "" : FaultOf(*program, kernel, *clicks); }};
+}
+
+// The longest time between two looks at what the user does.
+double LongestPass(TestProgram& program, Smudger smudger) {
+    double longest = 0;
+    auto last = std::chrono::steady_clock::now();
+    for (int pass = 1; pass <= kSmudgerPasses; ++pass) {
+        program.desktop.time.duringPass.emplace(pass, [&] {
+            const auto now = std::chrono::steady_clock::now();
+            longest = std::max(longest, std::chrono::duration<double>(now - last).count());
+            last = now;
+        });
+    }
+    (program.form.*smudger).UserClick();
+    return longest;
+}
+
+Contest OnePass(Smudger smudger) {
+    const auto program = ProgramWith(Picture(MakePhotograph(1920, 1080)));
+    return {.ours = [=] { return LongestPass(*program, smudger); },
+            .peers = {{"50 ms, which nobody feels", 1, [] { return kUnfelt; }}}};
+}
+
+} // namespace
+
+Group SmudgerRows() {
+    return {
+        "Image FX: smudgers",
+        {
+            {"across, 151 passes", [] { return AllPasses(&FrmPicX::cmdPointalism, &KernelSet::FXBlurMore); }},
+            {"down, 151 passes",
+             [] { return AllPasses(&FrmPicX::cmdPointalismVert, &KernelSet::FXBlurMoreVert); }},
+            {"across, the longest pass on 1920 x 1080", [] { return OnePass(&FrmPicX::cmdPointalism); }},
+            {"down, the longest pass on 1920 x 1080", [] { return OnePass(&FrmPicX::cmdPointalismVert); }},
+        }};
+}
+
+} // namespace mirelle::bench
