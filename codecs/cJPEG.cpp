@@ -78,6 +78,7 @@ void cJPEG::BeginPicture(int width, int height) {
     for (jpeg::Component& component : frame_.Components) {
         component.Coefficients = {};
         component.NonZero = {};
+        component.DcValues = {};
     }
 }
 

@@ -27,6 +27,9 @@ struct HuffmanTable {
 // How often each symbol occurs; the last place belongs to the symbol that OptimizeHuffman reserves.
 using Frequencies = std::array<std::int32_t, 257>;
 
+// The same of a component by itself, which has fewer than 2^31 values.
+using SymbolCounts = std::array<std::uint32_t, 256>;
+
 struct Component {
     std::int32_t Ci = 0; // identifier written to the file
     std::int32_t Hi = 1; // sampling factors
@@ -36,6 +39,10 @@ struct Component {
     Array<std::int16_t> Coefficients;
     // For each block which of its values are not zero: bit k stands for zig-zag position k.
     Array<std::uint64_t> NonZero;
+    // The DC value of each block once more, side by side for those who need nothing else of it.
+    Array<std::int16_t> DcValues;
+    // What the AC values of all blocks need.
+    SymbolCounts AcSymbols{};
 };
 
 struct Frame {

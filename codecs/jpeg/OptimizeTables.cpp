@@ -43,7 +43,7 @@ std::int32_t OptimizeTables(const Frame& frame, const std::vector<ScanGroup>& gr
         estimate += Long(MakeTable(tables.DcTables[t], frequency, LargestDcSymbol(frame.P)));
 
         for (std::size_t k = 0; k < frame.Components.size(); ++k) {
-            if (TableOf(k) == t) CountAcSymbols(frame.Components[k], frequency);
+            if (TableOf(k) == t) AddSymbols(frame.Components[k].AcSymbols, frequency);
         }
         estimate += Long(MakeTable(tables.AcTables[t], frequency, kLargestAcSymbol));
     }

@@ -32,7 +32,7 @@ void WriteSlices(OutBuffer& out, const Slices& slices, Encode encode) {
 
 // The DC value that the first difference after `blocks` blocks is taken from.
 int LastDcOf(const Component& component, std::size_t blocks) {
-    return blocks == 0 ? 0 : component.Coefficients[64 * (blocks - 1)];
+    return blocks == 0 ? 0 : component.DcValues[blocks - 1];
 }
 
 void Encode(BitString& out, const Component& component, std::size_t block, int& lastDc,

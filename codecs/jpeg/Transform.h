@@ -7,8 +7,9 @@
 
 namespace mirelle::jpeg {
 
-// Fills the Coefficients and NonZero of `component`, the one with this index, from the xa by ya pixels of the
-// view. Raises error 6 where xa * ya leaves 32 bits, 7 where there is no memory for the coefficients.
+// Fills `component`, the one with this index, from the xa by ya pixels of the view: its coefficients and what
+// is known of them. Raises error 6 where xa * ya leaves 32 bits, 7 where there is no memory for the
+// coefficients.
 void TransformComponent(Component& component, std::size_t index, const QuantTable& table,
                         const PlaneSize& plane, const PlaneView& view);
 

@@ -25,6 +25,7 @@ Component ComponentOf(const std::vector<Sparse>& blocks) {
     Component component;
     component.Coefficients = jpeg::Array<std::int16_t>(64 * blocks.size());
     component.NonZero = jpeg::Array<std::uint64_t>(blocks.size());
+    component.DcValues = jpeg::Array<std::int16_t>(blocks.size());
     for (std::size_t b = 0; b < blocks.size(); ++b) {
         component.NonZero[b] = 0;
         for (std::size_t k = 0; k < 64; ++k) {
@@ -33,13 +34,15 @@ Component ComponentOf(const std::vector<Sparse>& blocks) {
             component.Coefficients[64 * b + k] = static_cast<std::int16_t>(value);
             if (value != 0) component.NonZero[b] |= std::uint64_t{1} << k;
         }
+        component.DcValues[b] = component.Coefficients[64 * b];
+        jpeg::CountAcSymbols(&component.Coefficients[64 * b], component.NonZero[b], component.AcSymbols);
     }
     return component;
 }
 
 Frequencies AcSymbols(const Sparse& block) {
     Frequencies frequency{};
-    jpeg::CountAcSymbols(ComponentOf({block}), frequency);
+    jpeg::AddSymbols(ComponentOf({block}).AcSymbols, frequency);
     return frequency;
 }
 
@@ -85,9 +88,9 @@ TEST(JpegSymbols, CountsAddUpOverComponentsUpTo32Bits) {
     Frequencies frequency{};
     frequency[0] = INT32_MAX - 1;
     const Component component = ComponentOf({{}});
-    jpeg::CountAcSymbols(component, frequency);
+    jpeg::AddSymbols(component.AcSymbols, frequency);
     EXPECT_EQ(frequency[0], INT32_MAX);
-    EXPECT_EQ(RaisedBy([&] { jpeg::CountAcSymbols(component, frequency); }).number, 6);
+    EXPECT_EQ(RaisedBy([&] { jpeg::AddSymbols(component.AcSymbols, frequency); }).number, 6);
 }
 
 // What a writer stores, seen through a buffer that is large enough.

@@ -20,10 +20,12 @@ Frame FrameWithDcOf(int bits, int precision) {
     component.Ci = 1;
     component.Coefficients = jpeg::Array<std::int16_t>(64);
     component.NonZero = jpeg::Array<std::uint64_t>(1);
+    component.DcValues = jpeg::Array<std::int16_t>(1);
     for (std::size_t k = 0; k < 64; ++k)
         component.Coefficients[k] = 0;
-    component.Coefficients[0] = static_cast<std::int16_t>((1 << bits) - 1);
+    component.Coefficients[0] = component.DcValues[0] = static_cast<std::int16_t>((1 << bits) - 1);
     component.NonZero[0] = 1;
+    component.AcSymbols[0] = 1;
     return frame;
 }
 
@@ -50,11 +52,13 @@ TEST(JpegOptimize, DifferencesOfFifteenBitsAreTheLargestOfTwelveBitSamples) {
     jpeg::Component& component = frame.Components[0];
     component.Coefficients = jpeg::Array<std::int16_t>(128);
     component.NonZero = jpeg::Array<std::uint64_t>(2);
+    component.DcValues = jpeg::Array<std::int16_t>(2);
     for (std::size_t k = 0; k < 128; ++k)
         component.Coefficients[k] = 0;
-    component.Coefficients[0] = 32767;
-    component.Coefficients[64] = -32768;
+    component.Coefficients[0] = component.DcValues[0] = 32767;
+    component.Coefficients[64] = component.DcValues[1] = -32768;
     component.NonZero[0] = component.NonZero[1] = 1;
+    component.AcSymbols[0] = 2;
     frame.X = 16;
     jpeg::HuffmanTables tables;
     const test::Raised raised =

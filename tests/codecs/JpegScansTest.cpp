@@ -86,9 +86,9 @@ TEST(JpegInterleaving, ACountedDummyIsNoDifference) {
     frame.X = frame.Y = 24;
     jpeg::Component& component = frame.Components[0];
     component.NonZero = jpeg::Array<std::uint64_t>(9);
-    component.Coefficients = jpeg::Array<std::int16_t>(9 * 64);
+    component.DcValues = jpeg::Array<std::int16_t>(9);
     for (std::size_t b = 0; b < 9; ++b)
-        component.Coefficients[64 * b] = static_cast<std::int16_t>(1 << b);
+        component.DcValues[b] = static_cast<std::int16_t>(1 << b);
     // 1 2 8 16 | 4 d 32 d | 64 128 d d | 256 d d d: differences 1 1 6 8 -12 28 32 64 128.
     jpeg::Frequencies frequency{};
     jpeg::CountDcSymbolsMCU(frame, component, frequency);

@@ -2,6 +2,7 @@
 #include "codecs/jpeg/Colour.h"
 #include "codecs/jpeg/ForwardDCT.h"
 #include "codecs/jpeg/Quantiser.h"
+#include "codecs/jpeg/Symbols.h"
 #include "codecs/jpeg/Tables.h"
 #include "codecs/jpeg/Transform.h"
 #include "codecs/jpeg/TransformBlocks.h"
@@ -113,6 +114,13 @@ std::vector<std::int16_t> Coefficients(const Bitmap& bitmap, std::size_t index,
     for (std::size_t i = 0; i < component.Coefficients.Size(); ++i) {
         EXPECT_EQ(component.Coefficients[i] != 0, (component.NonZero[i / 64] >> (i % 64) & 1) != 0) << i;
     }
+    jpeg::SymbolCounts counts{};
+    for (std::size_t block = 0; block < component.NonZero.Size(); ++block) {
+        const std::int16_t* values = &component.Coefficients[64 * block];
+        EXPECT_EQ(component.DcValues[block], values[0]) << block;
+        jpeg::CountAcSymbols(values, component.NonZero[block], counts);
+    }
+    EXPECT_EQ(component.AcSymbols, counts);
     return {component.Coefficients.Data(), component.Coefficients.Data() + component.Coefficients.Size()};
 }
 
