@@ -91,6 +91,26 @@ TEST_F(GradientSourcesTest, TheResetBringsTheDefaultPictureBack) {
     EXPECT_TRUE(form.GradDirectionV);
 }
 
+TEST_F(GradientSourcesTest, TheDefaultPictureIsADuskFromNightBlueToSand) {
+    struct Row {
+        int y, red, green, blue;
+    };
+    const Bitmap& dusk = form.Picture6.Picture().Pixels();
+    ASSERT_EQ(dusk.Width(), 256);
+    ASSERT_EQ(dusk.Height(), 256);
+    for (const Row& row : {Row{0, 22, 30, 66},
+                           {45, 53, 51, 98},
+                           {89, 84, 72, 130},
+                           {102, 106, 78, 128},
+                           {153, 196, 104, 122},
+                           {178, 220, 133, 116},
+                           {204, 244, 164, 110},
+                           {230, 250, 196, 140},
+                           {255, 255, 226, 168}})
+        for (const Pixel& pixel : dusk.Row(row.y))
+            ASSERT_EQ(pixel, PixelOf(RGB(row.red, row.green, row.blue))) << row.y;
+}
+
 TEST_F(GradientSourcesTest, TheGradientImageStartsAsTheDefault) {
     TestProgram fresh;
     EXPECT_TRUE(fresh.form.pic2grad.Picture().SharesPixelsWith(fresh.form.Picture6.Picture()));
