@@ -27,7 +27,7 @@ constexpr int kPixelBytes = 3;
 constexpr int kRoomForSegments = 1000;
 // The estimate leaves out a bit of every code, so that an area of one colour counts nothing, and some of the
 // bits behind long values. What it falls short is less than two bytes a coefficient.
-constexpr std::size_t kRoomForCoefficient = 2;
+constexpr std::size_t kRoomForBlock = 2 * 64;
 
 // The working bitmap of a surface's picture has 24 bits a pixel, and its bytes are counted in 32 bits.
 bool CanBeMade(int w8, int h8) {
@@ -76,9 +76,9 @@ void cJPEG::BeginPicture(int width, int height) {
     frame_.X = width;
     frame_.Y = height;
     for (jpeg::Component& component : frame_.Components) {
-        component.Coefficients = {};
-        component.NonZero = {};
         component.DcValues = {};
+        component.AcSymbols = {};
+        component.AcStore = {};
     }
 }
 
@@ -147,10 +147,10 @@ jpeg::OutBuffer cJPEG::MakeFile() const {
     // The last index of the buffer, so that it holds one byte more.
     const Long last =
         estimate * Long(2) + Long(kRoomForSegments) + Long(static_cast<int>(commentBytes_.size()));
-    std::size_t coefficients = 0;
-    for (const auto& component : frame_.Components)
-        coefficients += component.Coefficients.Size();
-    jpeg::OutBuffer out(static_cast<std::size_t>(last.Value()) + 1 + kRoomForCoefficient * coefficients);
+    std::size_t blocks = 0;
+    for (const jpeg::Component& component : frame_.Components)
+        blocks += component.Blocks();
+    jpeg::OutBuffer out(static_cast<std::size_t>(last.Value()) + 1 + kRoomForBlock * blocks);
     WriteSegments(out, groups, tables);
     return out;
 }

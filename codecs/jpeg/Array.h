@@ -1,4 +1,4 @@
-// A block of memory whose elements hold nothing until they are written: coefficients and file buffers run to
+// A block of memory whose elements hold nothing until they are written: symbols and file buffers run to
 // many megabytes, and every one of them is written before it is read.
 #pragma once
 

@@ -11,31 +11,31 @@
 
 namespace mirelle::jpeg {
 
-// The codes of a table, ready to be appended. A symbol without a code has no bits at all.
+// The codes of a table, ready to be appended. A symbol without a code has no bits but those that follow it.
 class SymbolCodes {
 public:
+    // How many bits follow a symbol.
+    static constexpr unsigned OwnLength(std::size_t symbol) { return symbol & 15; }
+
     explicit SymbolCodes(const HuffmanTable& table) {
         for (std::size_t symbol = 0; symbol < codes_.size(); ++symbol) {
+            const unsigned own = OwnLength(symbol);
+            codes_[symbol].length = own;
             if (table.Mask[symbol] == 0) continue;
-            codes_[symbol] = {static_cast<std::uint16_t>(table.Code[symbol]),
-                              static_cast<std::uint16_t>(table.Size[symbol] + 1)};
+            codes_[symbol] = {static_cast<std::uint32_t>(table.Code[symbol]) << own,
+                              table.Size[symbol] + 1 + own};
         }
     }
 
-    void Write(BitString& out, std::size_t symbol) const {
-        out.Append(codes_[symbol].bits, codes_[symbol].length);
-    }
-    // The symbol and then the value's own `size` bits, those of value - 1 for a negative one.
-    void WriteWithValue(BitString& out, std::size_t symbol, int value, unsigned size) const {
-        const std::uint32_t own = static_cast<std::uint32_t>(value + (value >> 31)) & ((1U << size) - 1);
-        const std::uint32_t code = codes_[symbol].bits;
-        out.Append(code << size | own, codes_[symbol].length + size);
+    void Write(BitString& out, std::size_t symbol, std::uint32_t own = 0) const {
+        out.Append(codes_[symbol].bits | own, codes_[symbol].length);
     }
 
 private:
+    // With room for the symbol's own bits behind the code.
     struct Code {
-        std::uint16_t bits = 0;
-        std::uint16_t length = 0;
+        std::uint32_t bits = 0;
+        std::uint32_t length = 0;
     };
     std::array<Code, 256> codes_{};
 };
@@ -49,28 +49,16 @@ struct ComponentCodes {
     SymbolCodes ac;
 };
 
-// `values` are 64 in zig-zag order, `nonZero` has a bit for each that is not 0. `lastDc` is the DC value of
-// the component's block before and becomes this one's.
-inline void EncodeBlock(BitString& out, const std::int16_t* values, std::uint64_t nonZero, int& lastDc,
+// `lastDc` is the DC value of the component's block before and becomes this one's.
+inline void EncodeBlock(BitString& out, int dc, std::span<const AcSymbol> symbols, int& lastDc,
                         const ComponentCodes& codes) {
     out.Reserve(kMostBitsOfBlock);
-    const int difference = values[0] - lastDc;
-    lastDc = values[0];
+    const int difference = dc - lastDc;
+    lastDc = dc;
     const auto dcSize = static_cast<unsigned>(BitLength(difference));
-    codes.dc.WriteWithValue(out, dcSize, difference, dcSize);
-
-    int last = 0;
-    for (std::uint64_t rest = nonZero & ~std::uint64_t{1}; rest != 0; rest &= rest - 1) {
-        const int k = std::countr_zero(rest);
-        int run = k - last - 1;
-        for (; run > 15; run -= 16)
-            codes.ac.Write(out, 0xF0);
-        const int value = values[k];
-        const auto size = static_cast<unsigned>(BitLengthOfNonZero(value));
-        codes.ac.WriteWithValue(out, static_cast<std::size_t>(run) * 16 + size, value, size);
-        last = k;
-    }
-    if (last != 63) codes.ac.Write(out, 0);
+    codes.dc.Write(out, dcSize, OwnBits(difference, dcSize));
+    for (const AcSymbol symbol : symbols)
+        codes.ac.Write(out, symbol & 0xFF, symbol >> 8);
 }
 
 // A block that the component lacks: no difference, and nothing but an end of block. If no real block has ever

@@ -2,6 +2,7 @@
 // of tables.
 #pragma once
 
+#include "codecs/jpeg/AcSymbols.h"
 #include "codecs/jpeg/Array.h"
 
 #include <array>
@@ -27,22 +28,18 @@ struct HuffmanTable {
 // How often each symbol occurs; the last place belongs to the symbol that OptimizeHuffman reserves.
 using Frequencies = std::array<std::int32_t, 257>;
 
-// The same of a component by itself, which has fewer than 2^31 values.
-using SymbolCounts = std::array<std::uint32_t, 256>;
-
 struct Component {
     std::int32_t Ci = 0; // identifier written to the file
     std::int32_t Hi = 1; // sampling factors
     std::int32_t Vi = 1;
     std::int32_t Tqi = 0; // index of the quantisation table
-    // All blocks, left to right and then top to bottom, each 64 quantised values in zig-zag order.
-    Array<std::int16_t> Coefficients;
-    // For each block which of its values are not zero: bit k stands for zig-zag position k.
-    Array<std::uint64_t> NonZero;
-    // The DC value of each block once more, side by side for those who need nothing else of it.
+    // The quantised values of all blocks, left to right and then top to bottom: the first of each, and the
+    // symbols that the others are coded as, which the store holds.
     Array<std::int16_t> DcValues;
-    // What the AC values of all blocks need.
-    SymbolCounts AcSymbols{};
+    Array<std::span<const AcSymbol>> AcSymbols;
+    AcSymbolStore AcStore;
+
+    std::size_t Blocks() const { return DcValues.Size(); }
 };
 
 struct Frame {

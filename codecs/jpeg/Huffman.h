@@ -19,6 +19,12 @@ inline int BitLengthOfNonZero(std::int32_t value) {
     return static_cast<int>(std::bit_width(static_cast<std::uint32_t>(std::abs(value)) | 1U));
 }
 
+// The bits that follow the symbol of a value with `size` significant bits: its own, or for a negative one
+// those of value - 1.
+inline std::uint32_t OwnBits(std::int32_t value, unsigned size) {
+    return static_cast<std::uint32_t>(value + (value >> 31)) & ((1U << size) - 1);
+}
+
 // Sets Bits and HuffVal for the frequencies of the symbols 0..255, with no code longer than 16 bits and none
 // that is all ones: the code of a reserved symbol is made with the others and then taken away. Leaves the
 // frequencies all zero. Raises error 6 where a sum of frequencies leaves 32 bits.

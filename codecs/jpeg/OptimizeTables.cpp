@@ -25,7 +25,7 @@ std::int32_t MakeTable(HuffmanTable& table, Frequencies& frequency, int largestS
 
 std::int32_t OptimizeTables(const Frame& frame, const std::vector<ScanGroup>& groups, HuffmanTables& tables) {
     for (const Component& component : frame.Components) {
-        if (component.Coefficients.IsEmpty()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+        if (component.DcValues.IsEmpty()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     }
     Long estimate = 0;
     Frequencies frequency{};
@@ -43,7 +43,7 @@ std::int32_t OptimizeTables(const Frame& frame, const std::vector<ScanGroup>& gr
         estimate += Long(MakeTable(tables.DcTables[t], frequency, LargestDcSymbol(frame.P)));
 
         for (std::size_t k = 0; k < frame.Components.size(); ++k) {
-            if (TableOf(k) == t) AddSymbols(frame.Components[k].AcSymbols, frequency);
+            if (TableOf(k) == t) AddSymbols(frame.Components[k].AcStore.Counts(), frequency);
         }
         estimate += Long(MakeTable(tables.AcTables[t], frequency, kLargestAcSymbol));
     }

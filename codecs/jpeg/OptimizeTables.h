@@ -1,4 +1,4 @@
-// The Huffman tables of a frame, made for its own coefficients.
+// The Huffman tables of a frame, made for its own symbols.
 #pragma once
 
 #include "codecs/jpeg/Frame.h"
@@ -13,7 +13,7 @@ struct HuffmanTables {
 };
 
 // Makes the tables that the components need, and gives an estimate of the scans' bytes that is good enough
-// for the size of a buffer. Raises error 9 for a component without coefficients, "Bad Huffman Table", error 6
+// for the size of a buffer. Raises error 9 for a component without blocks, "Bad Huffman Table", error 6
 // where a number leaves 32 bits.
 std::int32_t OptimizeTables(const Frame& frame, const std::vector<ScanGroup>& groups, HuffmanTables& tables);
 

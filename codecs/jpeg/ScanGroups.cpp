@@ -34,7 +34,7 @@ McuCount CountMcus(const Frame& frame) {
 
 InterleavedBlocks::InterleavedBlocks(const Frame& frame, const Component& component)
     : mcus_(CountMcus(frame)), h_(static_cast<std::size_t>(component.Hi)),
-      v_(static_cast<std::size_t>(component.Vi)), blocks_(component.NonZero.Size()) {
+      v_(static_cast<std::size_t>(component.Vi)), blocks_(component.Blocks()) {
     const std::int32_t samples = (component.Hi * frame.X + frame.Hmax - 1) / frame.Hmax;
     perRow_ = static_cast<std::size_t>((samples + 7) / 8);
     edge_ = perRow_ % h_ == 0 ? h_ : perRow_ % h_;

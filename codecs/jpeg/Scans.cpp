@@ -37,11 +37,11 @@ int LastDcOf(const Component& component, std::size_t blocks) {
 
 void Encode(BitString& out, const Component& component, std::size_t block, int& lastDc,
             const ComponentCodes& codes) {
-    EncodeBlock(out, &component.Coefficients[64 * block], component.NonZero[block], lastDc, codes);
+    EncodeBlock(out, component.DcValues[block], component.AcSymbols[block], lastDc, codes);
 }
 
 void WriteScanSingle(OutBuffer& out, const Component& component, const ComponentCodes& codes) {
-    const Slices slices(component.NonZero.Size(), kShortestSlice);
+    const Slices slices(component.Blocks(), kShortestSlice);
     WriteSlices(out, slices, [&](std::size_t first, std::size_t end, BitString& bits) {
         int lastDc = LastDcOf(component, first);
         for (std::size_t block = first; block < end; ++block)

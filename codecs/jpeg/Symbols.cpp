@@ -4,8 +4,6 @@
 #include "codecs/jpeg/ScanGroups.h"
 #include "forms/RunTimeError.h"
 
-#include <bit>
-
 namespace mirelle::jpeg {
 namespace {
 
@@ -14,20 +12,6 @@ std::size_t SymbolOfDc(int value, int last) {
 }
 
 } // namespace
-
-void CountAcSymbols(const std::int16_t* values, std::uint64_t nonZero, SymbolCounts& counts) {
-    int last = 0;
-    for (std::uint64_t rest = nonZero & ~std::uint64_t{1}; rest != 0; rest &= rest - 1) {
-        const int k = std::countr_zero(rest);
-        int run = k - last - 1;
-        for (; run > 15; run -= 16)
-            ++counts[0xF0];
-        const int symbol = run * 16 + BitLengthOfNonZero(values[k]);
-        ++counts[static_cast<std::size_t>(symbol)];
-        last = k;
-    }
-    if (last != 63) ++counts[0];
-}
 
 void AddSymbols(const SymbolCounts& counts, Frequencies& frequency) {
     for (std::size_t i = 0; i < counts.size(); ++i) {

@@ -1,15 +1,12 @@
-// Counts how often a component's blocks need each Huffman symbol: ITU T.81, F.1.2.
+// Counts how often a component's blocks need each Huffman symbol: ITU T.81, F.1.2. What dummy blocks need of
+// the AC symbols is not counted.
 #pragma once
 
 #include "codecs/jpeg/Frame.h"
 
 namespace mirelle::jpeg {
 
-// Runs and values of one block's AC values: 64 values in zig-zag order, and a bit for each that is not 0.
-void CountAcSymbols(const std::int16_t* values, std::uint64_t nonZero, SymbolCounts& counts);
-
-// Adds counts to frequencies; what dummy blocks need is not counted. Raises error 6 where a sum leaves 32
-// bits.
+// Adds counts to frequencies. Raises error 6 where a sum leaves 32 bits.
 void AddSymbols(const SymbolCounts& counts, Frequencies& frequency);
 
 // The differences of neighbouring DC values in the order of the blocks.

@@ -1,10 +1,10 @@
 #include "codecs/jpeg/Transform.h"
 
 #include "codecs/jpeg/Share.h"
-#include "codecs/jpeg/Symbols.h"
 #include "codecs/jpeg/TransformBlocks.h"
 #include "forms/Numbers.h"
 
+#include <utility>
 #include <vector>
 
 namespace mirelle::jpeg {
@@ -13,13 +13,17 @@ namespace {
 // The least number of blocks that is worth a thread.
 constexpr std::size_t kShortestSlice = 512;
 
-// Looks at blocks while they are still near: counts their AC symbols and puts their DC values side by side.
-void LookAtBlocks(Component& component, std::size_t first, std::size_t end, SymbolCounts& counts) {
-    for (std::size_t block = first; block < end; ++block) {
-        const std::int16_t* values = &component.Coefficients[64 * block];
-        CountAcSymbols(values, component.NonZero[block], counts);
-        component.DcValues[block] = values[0];
+// Eight rows of pixels, from the view or, where that reaches beyond its memory, from `scratch`.
+BlockRow RowOfBlocks(const PlaneView& view, std::size_t down, int width, std::span<std::uint8_t> scratch) {
+    BlockRow row;
+    row.pixelBytes = view.pixelBytes;
+    row.blocks = static_cast<std::size_t>(width) / 8;
+    const std::size_t rowBytes = scratch.size() / 8;
+    for (std::size_t i = 0; i < 8; ++i) {
+        row.pixels[i] =
+            view.Row(static_cast<int>(8 * down + i), width, scratch.subspan(i * rowBytes, rowBytes));
     }
+    return row;
 }
 
 } // namespace
@@ -27,38 +31,40 @@ void LookAtBlocks(Component& component, std::size_t first, std::size_t end, Symb
 void TransformComponent(Component& component, std::size_t index, const QuantTable& table,
                         const PlaneSize& plane, const PlaneView& view) {
     const Long samples = Long(plane.xa) * Long(plane.ya);
+    const auto blocks = static_cast<std::size_t>(samples.Value() / 64);
     const auto blocksAcross = static_cast<std::size_t>(plane.xa / 8);
     const auto blocksDown = static_cast<std::size_t>(plane.ya / 8);
-    component.Coefficients = Array<std::int16_t>(static_cast<std::size_t>(samples.Value()));
-    component.NonZero = Array<std::uint64_t>(blocksAcross * blocksDown);
-    component.DcValues = Array<std::int16_t>(blocksAcross * blocksDown);
-    component.AcSymbols = {};
+    Array<std::int16_t> dcValues(blocks);
+    Array<std::span<const AcSymbol>> acSymbols(blocks);
 
     const TransposedFactors factors = Transposed(table);
     const TransformBlockRow transform = WaysToTransform()[0];
-    const std::size_t rowBytes = static_cast<std::size_t>(plane.xa) * view.pixelBytes;
     const Slices slices(blocksDown, kShortestSlice / blocksAcross + 1);
-    std::vector<SymbolCounts> counted(slices.Number());
+    std::vector<AcSymbolStore> stores(slices.Number());
     RunShared(slices, [&](std::size_t slice) {
-        SymbolCounts counts{};
-        Array<std::uint8_t> scratch(8 * rowBytes);
+        AcSymbolStore store;
+        Array<std::uint8_t> scratch(64 * blocksAcross * view.pixelBytes);
+        Array<std::int16_t> values(64 * blocksAcross);
+        Array<std::uint64_t> nonZero(blocksAcross);
         for (std::size_t down = slices.Begin(slice); down < slices.End(slice); ++down) {
-            BlockRow row{{}, view.pixelBytes, index, blocksAcross};
-            for (std::size_t i = 0; i < 8; ++i) {
-                const std::span<std::uint8_t> spare = scratch;
-                row.pixels[i] =
-                    view.Row(static_cast<int>(8 * down + i), plane.xa, spare.subspan(i * rowBytes, rowBytes));
+            BlockRow row = RowOfBlocks(view, down, plane.xa, scratch);
+            row.component = index;
+            transform(row, factors, values.Data(), nonZero.Data());
+            for (std::size_t across = 0; across < blocksAcross; ++across) {
+                const std::int16_t* ofBlock = &values[64 * across];
+                const std::size_t block = down * blocksAcross + across;
+                dcValues[block] = ofBlock[0];
+                acSymbols[block] = store.Add(ofBlock, nonZero[across]);
             }
-            const std::size_t first = down * blocksAcross;
-            transform(row, factors, &component.Coefficients[64 * first], &component.NonZero[first]);
-            LookAtBlocks(component, first, first + blocksAcross, counts);
         }
-        counted[slice] = counts;
+        stores[slice] = std::move(store);
     });
-    for (const SymbolCounts& counts : counted) {
-        for (std::size_t symbol = 0; symbol < counts.size(); ++symbol)
-            component.AcSymbols[symbol] += counts[symbol];
-    }
+
+    component.DcValues = std::move(dcValues);
+    component.AcSymbols = std::move(acSymbols);
+    component.AcStore = {};
+    for (AcSymbolStore& store : stores)
+        component.AcStore.Join(std::move(store));
 }
 
 } // namespace mirelle::jpeg

@@ -23,26 +23,24 @@ using Sparse = std::map<std::size_t, int>;
 
 Component ComponentOf(const std::vector<Sparse>& blocks) {
     Component component;
-    component.Coefficients = jpeg::Array<std::int16_t>(64 * blocks.size());
-    component.NonZero = jpeg::Array<std::uint64_t>(blocks.size());
     component.DcValues = jpeg::Array<std::int16_t>(blocks.size());
+    component.AcSymbols = jpeg::Array<std::span<const jpeg::AcSymbol>>(blocks.size());
     for (std::size_t b = 0; b < blocks.size(); ++b) {
-        component.NonZero[b] = 0;
-        for (std::size_t k = 0; k < 64; ++k) {
-            const auto found = blocks[b].find(k);
-            const int value = found == blocks[b].end() ? 0 : found->second;
-            component.Coefficients[64 * b + k] = static_cast<std::int16_t>(value);
-            if (value != 0) component.NonZero[b] |= std::uint64_t{1} << k;
+        std::array<std::int16_t, 64> values{};
+        std::uint64_t nonZero = 0;
+        for (const auto& [k, value] : blocks[b]) {
+            values[k] = static_cast<std::int16_t>(value);
+            if (value != 0) nonZero |= std::uint64_t{1} << k;
         }
-        component.DcValues[b] = component.Coefficients[64 * b];
-        jpeg::CountAcSymbols(&component.Coefficients[64 * b], component.NonZero[b], component.AcSymbols);
+        component.DcValues[b] = values[0];
+        component.AcSymbols[b] = component.AcStore.Add(values.data(), nonZero);
     }
     return component;
 }
 
 Frequencies AcSymbols(const Sparse& block) {
     Frequencies frequency{};
-    jpeg::AddSymbols(ComponentOf({block}).AcSymbols, frequency);
+    jpeg::AddSymbols(ComponentOf({block}).AcStore.Counts(), frequency);
     return frequency;
 }
 
@@ -78,6 +76,47 @@ TEST(JpegSymbols, RunsOfSixteenZerosAreSymbolsOfTheirOwn) {
     EXPECT_EQ(AcSymbols({{1, 1}, {34, 1}}), Expected({{0x01, 2}, {0xF0, 2}, {0, 1}}));
 }
 
+TEST(JpegSymbols, CarryTheBitsThatFollowThem) {
+    const auto symbols = [](const Sparse& block) {
+        const Component component = ComponentOf({block});
+        return std::vector<jpeg::AcSymbol>(component.AcSymbols[0].begin(), component.AcSymbols[0].end());
+    };
+    // One's complement for negative values.
+    EXPECT_EQ(
+        symbols({{1, 1}, {2, -1}, {4, 5}, {5, -5}, {38, 32767}, {39, -32767}}),
+        (std::vector<jpeg::AcSymbol>{0x101, 0x001, 0x513, 0x203, 0xF0, 0xF0, 0x7FFF0F, 0x00000F, 0x00}));
+}
+
+TEST(JpegSymbols, StayWhereTheyAreWhenStoresAreJoined) {
+    // More blocks than one chunk of memory holds.
+    constexpr std::size_t kBlocks = 700;
+    std::vector<std::span<const jpeg::AcSymbol>> blocks;
+    const auto fill = [&blocks](jpeg::AcSymbolStore& store) {
+        for (std::size_t b = 0; b < kBlocks; ++b) {
+            std::array<std::int16_t, 64> values;
+            values.fill(static_cast<std::int16_t>(blocks.size() + 1));
+            blocks.push_back(store.Add(values.data(), ~std::uint64_t{0}));
+        }
+    };
+    jpeg::AcSymbolStore first;
+    jpeg::AcSymbolStore second;
+    fill(first);
+    fill(second);
+    first.Join(std::move(second));
+    fill(first);
+    std::uint32_t all = 0;
+    for (const std::uint32_t count : first.Counts())
+        all += count;
+    EXPECT_EQ(all, 3 * kBlocks * 63);
+    for (std::size_t b = 0; b < blocks.size(); ++b) {
+        ASSERT_EQ(blocks[b].size(), 63U);
+        const auto size = static_cast<std::uint32_t>(std::bit_width(b + 1));
+        const auto own = static_cast<std::uint32_t>(b + 1) << 8;
+        for (const jpeg::AcSymbol symbol : blocks[b])
+            ASSERT_EQ(symbol, own | size) << b;
+    }
+}
+
 TEST(JpegSymbols, DcSymbolsAreDifferencesInTheOrderOfTheBlocks) {
     Frequencies frequency{};
     jpeg::CountDcSymbols(ComponentOf({{{0, 5}}, {{0, 5}}, {{0, -1020}}, {{0, 1019}}}), frequency);
@@ -88,9 +127,9 @@ TEST(JpegSymbols, CountsAddUpOverComponentsUpTo32Bits) {
     Frequencies frequency{};
     frequency[0] = INT32_MAX - 1;
     const Component component = ComponentOf({{}});
-    jpeg::AddSymbols(component.AcSymbols, frequency);
+    jpeg::AddSymbols(component.AcStore.Counts(), frequency);
     EXPECT_EQ(frequency[0], INT32_MAX);
-    EXPECT_EQ(RaisedBy([&] { jpeg::AddSymbols(component.AcSymbols, frequency); }).number, 6);
+    EXPECT_EQ(RaisedBy([&] { jpeg::AddSymbols(component.AcStore.Counts(), frequency); }).number, 6);
 }
 
 // What a writer stores, seen through a buffer that is large enough.
@@ -230,7 +269,7 @@ TEST(JpegBlocks, AreCodedAsDifferenceRunsAndValues) {
     int lastDc = 0;
     const Bytes written = BytesOfBlocks([&](auto& bits) {
         for (std::size_t b = 0; b < 2; ++b) {
-            jpeg::EncodeBlock(bits, &component.Coefficients[64 * b], component.NonZero[b], lastDc, codes);
+            jpeg::EncodeBlock(bits, component.DcValues[b], component.AcSymbols[b], lastDc, codes);
         }
     });
     // Block 0: 10 11 (3), 01 0 (-1), 100 101 (one zero, 5), 101 01 1 (16 zeros, 1), 00.

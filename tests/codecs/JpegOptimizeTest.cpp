@@ -10,6 +10,8 @@ namespace {
 using jpeg::Frame;
 using test::RaisedBy;
 
+constexpr std::array<std::int16_t, 64> kZeros{};
+
 // A grey picture of one block with nothing but its first value, and that of so many bits.
 Frame FrameWithDcOf(int bits, int precision) {
     Frame frame;
@@ -18,14 +20,9 @@ Frame FrameWithDcOf(int bits, int precision) {
     frame.Y = 8;
     jpeg::Component& component = frame.Components.emplace_back();
     component.Ci = 1;
-    component.Coefficients = jpeg::Array<std::int16_t>(64);
-    component.NonZero = jpeg::Array<std::uint64_t>(1);
     component.DcValues = jpeg::Array<std::int16_t>(1);
-    for (std::size_t k = 0; k < 64; ++k)
-        component.Coefficients[k] = 0;
-    component.Coefficients[0] = component.DcValues[0] = static_cast<std::int16_t>((1 << bits) - 1);
-    component.NonZero[0] = 1;
-    component.AcSymbols[0] = 1;
+    component.DcValues[0] = static_cast<std::int16_t>((1 << bits) - 1);
+    component.AcStore.Add(kZeros.data(), 0);
     return frame;
 }
 
@@ -50,15 +47,10 @@ TEST(JpegOptimize, DifferencesOfFifteenBitsAreTheLargestOfTwelveBitSamples) {
     // From -32768 to 32767 are sixteen.
     Frame frame = FrameWithDcOf(15, 12);
     jpeg::Component& component = frame.Components[0];
-    component.Coefficients = jpeg::Array<std::int16_t>(128);
-    component.NonZero = jpeg::Array<std::uint64_t>(2);
     component.DcValues = jpeg::Array<std::int16_t>(2);
-    for (std::size_t k = 0; k < 128; ++k)
-        component.Coefficients[k] = 0;
-    component.Coefficients[0] = component.DcValues[0] = 32767;
-    component.Coefficients[64] = component.DcValues[1] = -32768;
-    component.NonZero[0] = component.NonZero[1] = 1;
-    component.AcSymbols[0] = 2;
+    component.DcValues[0] = 32767;
+    component.DcValues[1] = -32768;
+    component.AcStore.Add(kZeros.data(), 0);
     frame.X = 16;
     jpeg::HuffmanTables tables;
     const test::Raised raised =

@@ -46,7 +46,7 @@ std::vector<int> Order(const std::array<int, 6>& factors, int x, int y, std::siz
     Frame frame = FrameOf(factors);
     frame.X = x;
     frame.Y = y;
-    frame.Components[k].NonZero = jpeg::Array<std::uint64_t>(blocks);
+    frame.Components[k].DcValues = jpeg::Array<std::int16_t>(blocks);
     const jpeg::InterleavedBlocks interleaved(frame, frame.Components[k]);
     const jpeg::McuCount mcus = jpeg::CountMcus(frame);
     std::vector<int> order;
@@ -85,7 +85,6 @@ TEST(JpegInterleaving, ACountedDummyIsNoDifference) {
     Frame frame = FrameOf({2, 2, 1, 1, 1, 1});
     frame.X = frame.Y = 24;
     jpeg::Component& component = frame.Components[0];
-    component.NonZero = jpeg::Array<std::uint64_t>(9);
     component.DcValues = jpeg::Array<std::int16_t>(9);
     for (std::size_t b = 0; b < 9; ++b)
         component.DcValues[b] = static_cast<std::int16_t>(1 << b);
