@@ -8,7 +8,8 @@
 
 namespace mirelle::bench {
 
-// Does its work once and tells in seconds of wall time how long the part that counts took.
+// Does its work once and tells in seconds of wall time how long the part that counts took, or in the
+// measure's unit how much it used.
 using Run = std::function<double()>;
 
 struct Peer {
@@ -19,18 +20,20 @@ struct Peer {
 
 // What a measure needs is made when it is prepared, and lives as long as the contest.
 struct Contest {
-    Run ours;
+    Run ours; // empty where this machine lacks what it takes
     std::vector<Peer> peers;
     // Asked after the last round: what is wrong with our result. Empty where it holds.
     std::function<std::string()> fault = [] { return std::string(); };
 };
 
 enum class Cores { One, All };
+enum class Unit { Seconds, Pictures };
 
 struct Measure {
     std::string name;
     std::function<Contest()> prepare;
     Cores cores = Cores::One;
+    Unit unit = Unit::Seconds;
 };
 
 struct Group {

@@ -11,5 +11,13 @@ Group PointRows();
 Group ContrastRows();
 Group EffectClickRows();
 Group SmudgerRows();
+Group GradientRows();
+Group PasteRows();
+Group CropRows();
+Group PhotographRows();
+Group FolderRows();
+Group StartRows();
+Group MemoryRows();
+Group KeysRows();
 
 } // namespace mirelle::bench

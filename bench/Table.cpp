@@ -29,9 +29,14 @@ std::string Now() {
     return text.data();
 }
 
+std::string PicturesText(double pictures) {
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%.2f pict.", pictures);
+    return text.data();
+}
+
 // Three digits that count, in milliseconds or microseconds.
 std::string TimeText(double seconds) {
-    if (std::isinf(seconds)) return "-";
     const bool small = seconds < 1e-4;
     const double value = seconds * (small ? 1e6 : 1e3);
     const int digits = value < 10 ? 2 : value < 100 ? 1 : 0;
@@ -44,6 +49,10 @@ std::string RatioText(double ratio) {
     std::array<char, 32> text{};
     std::snprintf(text.data(), text.size(), "%.*f", ratio < 0.1 ? 3 : 2, ratio);
     return text.data();
+}
+
+std::string AmountText(double amount, Unit unit) {
+    return unit == Unit::Seconds ? TimeText(amount) : PicturesText(amount);
 }
 
 void PrintRow(const std::string& measure, const std::string& ours, const std::string& peer,
@@ -74,13 +83,14 @@ void Table::PrintTitle(const std::string& title) const {
 
 void Table::Run(const Measure& measure, double seconds) {
     const Contest contest = measure.prepare();
-    const Times times = RunRounds(contest, measure.cores, seconds);
+    const Times times = contest.ours ? RunRounds(contest, measure.cores, seconds) : Times{};
     for (std::size_t i = 0; i < contest.peers.size(); ++i) {
         const Peer& peer = contest.peers[i];
         const std::string aim = peer.aim > 0 ? RatioText(peer.aim) : "";
-        if (!peer.run) {
+        if (!contest.ours || !peer.run) {
             ++missing_;
-            PrintRow(measure.name, TimeText(times.ours), peer.name, "-", "-", aim, "not on this machine");
+            const std::string ours = contest.ours ? AmountText(times.ours, measure.unit) : "-";
+            PrintRow(measure.name, ours, peer.name, "-", "-", aim, "not on this machine");
             continue;
         }
         const double ratio = times.ours / times.peers[i];
@@ -89,9 +99,11 @@ void Table::Run(const Measure& measure, double seconds) {
             ++aims_;
             met_ += met ? 1 : 0;
         }
-        PrintRow(measure.name, TimeText(times.ours), peer.name, TimeText(times.peers[i]), RatioText(ratio),
-                 aim, peer.aim > 0 ? met ? "met" : "MISSED" : "");
+        PrintRow(measure.name, AmountText(times.ours, measure.unit), peer.name,
+                 AmountText(times.peers[i], measure.unit), RatioText(ratio), aim,
+                 peer.aim > 0 ? met ? "met" : "MISSED" : "");
     }
+    if (!contest.ours) return;
     if (const std::string fault = contest.fault(); !fault.empty()) {
         ++faults_;
         std::printf("    FAULT: %s\n", fault.c_str());
