@@ -19,25 +19,24 @@ MIRELLE_VERSIONS void Averaged(const Pixel* c, const Pixel* p, Pixel* destinatio
         p);
 }
 
-// A quarter of each 16-bit half of a word, ties to even: n / 4 rounds up from 2 over an odd quotient and from
-// 3 over an even one. n is at most 1020.
-MIRELLE_INLINE std::uint32_t QuartersToEven(std::uint32_t n) {
-    constexpr std::uint32_t lowBits = 0x00010001;
-    return (n + lowBits + (n >> 2 & lowBits)) >> 2 & 0x00FF00FF;
+// ((c + p1) / 2 + p2) / 2, which is a quarter of c + p1 + 2 p2; the halving between loses nothing in a float.
+// Cut down it is the mean, cut down, of p2 and of the mean, cut down, of the other two. What both cuts took
+// off are a half and a quarter: the half alone is a tie and goes to the even number, with the quarter it goes
+// up.
+MIRELLE_INLINE std::uint32_t QuarterToEven(std::uint32_t c, std::uint32_t p1, std::uint32_t p2) {
+    const std::uint32_t quarter = c ^ p1;
+    const std::uint32_t mean = MeanCutDown(c, p1);
+    const std::uint32_t half = mean ^ p2;
+    const std::uint32_t cut = MeanCutDown(mean, p2);
+    return cut + (half & (quarter | cut) & kEveryLowBit);
 }
 
-// ((c + p1) / 2 + p2) / 2 is a quarter of c + p1 + 2 p2; the halving between loses nothing in a float.
 MIRELLE_VERSIONS void AveragedMore(const Pixel* c, const Pixel* p1, const Pixel* p2, Pixel* destination,
                                    std::size_t pixels) {
     EachWord(
         pixels, destination,
-        [](std::size_t, std::uint32_t cs, std::uint32_t p1s, std::uint32_t p2s) MIRELLE_LAMBDA {
-            constexpr std::uint32_t blueAndRed = 0x00FF00FF;
-            constexpr std::uint32_t green = 0x000000FF;
-            const std::uint32_t even = (cs & blueAndRed) + (p1s & blueAndRed) + 2 * (p2s & blueAndRed);
-            const std::uint32_t odd = (cs >> 8 & green) + (p1s >> 8 & green) + 2 * (p2s >> 8 & green);
-            return QuartersToEven(even) | QuartersToEven(odd) << 8;
-        },
+        [](std::size_t, std::uint32_t cs, std::uint32_t p1s, std::uint32_t p2s)
+            MIRELLE_LAMBDA { return QuarterToEven(cs, p1s, p2s); },
         c, p1, p2);
 }
 

@@ -175,12 +175,15 @@ MIRELLE_INLINE std::uint8_t HalfToEven(std::uint8_t value) {
     return static_cast<std::uint8_t>(half + (half & value & 1));
 }
 
-// The means of the four bytes of two words, ties to even. The bytes' common bits and half of the others are
-// the mean cut down; where the sum is odd and that is odd too, the tie goes up.
+// The means of the four bytes of two words, cut down: the bytes' common bits and half of the others.
+MIRELLE_INLINE std::uint32_t MeanCutDown(std::uint32_t a, std::uint32_t b) {
+    return (a & b) + (((a ^ b) >> 1) & kEveryBitButHigh);
+}
+
+// The same with ties to even: where the sum is odd and the mean cut down is odd too, the tie goes up.
 MIRELLE_INLINE std::uint32_t MeanToEven(std::uint32_t a, std::uint32_t b) {
-    const std::uint32_t different = a ^ b;
-    const std::uint32_t cut = (a & b) + ((different >> 1) & kEveryBitButHigh);
-    return cut + (cut & different & kEveryLowBit);
+    const std::uint32_t cut = MeanCutDown(a, b);
+    return cut + (cut & (a ^ b) & kEveryLowBit);
 }
 
 // Steps in 16 bits. The high half of a product; the distance of two bytes; the smaller one.
