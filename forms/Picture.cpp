@@ -21,6 +21,15 @@ Bitmap::Bitmap(int width, int height, Pixel fill) : width_(width), height_(heigh
     WithinMemory([&] { pixels_.assign(count, fill); });
 }
 
+Bitmap Bitmap::Unwritten(int width, int height) {
+    Bitmap bitmap;
+    const std::size_t count = PixelCount(width, height);
+    WithinMemory([&] { bitmap.pixels_.resize(count); });
+    bitmap.width_ = width;
+    bitmap.height_ = height;
+    return bitmap;
+}
+
 Bitmap Bitmap::FromRows(int width, int height, const FillRow& fill) {
     Bitmap bitmap;
     const std::size_t count = PixelCount(width, height);
@@ -28,7 +37,7 @@ Bitmap Bitmap::FromRows(int width, int height, const FillRow& fill) {
     bitmap.width_ = width;
     bitmap.height_ = height;
     for (int y = 0; y < height; ++y) {
-        bitmap.pixels_.resize(bitmap.pixels_.size() + static_cast<std::size_t>(width));
+        bitmap.pixels_.resize(bitmap.pixels_.size() + static_cast<std::size_t>(width), Pixel{});
         fill(y, bitmap.Row(y));
     }
     return bitmap;

@@ -6,6 +6,8 @@
 // Picture without a bitmap is the empty picture ("nothing").
 #pragma once
 
+#include "forms/PixelMemory.h"
+
 #include <compare>
 #include <cstddef>
 #include <cstdint>
@@ -51,6 +53,8 @@ public:
     Bitmap() = default;
     // Every pixel is `fill`. Raises error 7 when the memory for it can't be had, 5 for a negative size.
     Bitmap(int width, int height, Pixel fill = {});
+    // Its pixels hold anything until they are written. Raises the same errors.
+    static Bitmap Unwritten(int width, int height);
     // Each row is made and filled in turn, from the top: a large bitmap goes through the memory once. Raises
     // the same errors.
     using FillRow = std::function<void(int y, std::span<Pixel> row)>;
@@ -81,7 +85,7 @@ private:
 
     int width_ = 0;
     int height_ = 0;
-    std::vector<Pixel> pixels_;
+    std::vector<Pixel, PixelAllocator<Pixel>> pixels_;
 };
 
 class Picture {

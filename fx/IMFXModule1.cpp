@@ -27,7 +27,10 @@ void IMFXModule1::BeginFX(const Picture& source) {
         FXWidth = SrcPix.Width();
         FXHeight = SrcPix.Height();
     }
-    ResumeNext([&] { DstPix = Bitmap(FXWidth, FXHeight); });
+    // The kernel writes all of it; without a source there is none to run.
+    const bool isWritten = !SrcPix.Pixels().IsEmpty();
+    ResumeNext(
+        [&] { DstPix = isWritten ? Bitmap::Unwritten(FXWidth, FXHeight) : Bitmap(FXWidth, FXHeight); });
     ResumeNext([&] { FXStartMs = GetTimeMs(); });
 }
 

@@ -1,9 +1,9 @@
 // The state of a kernel's run, and the bracket around it: what every kernel button of the "Image FX" panel
 // calls.
 //
-// A run takes the source apart, makes a destination of the same size whose bytes are all 0, lets the kernel
-// write in it and hands it over. So what a kernel does not write is black, and the fourth byte of every
-// result is 0. The source is never changed: two kernels on one source do not add up.
+// A run takes the source apart, makes a destination of the same size, lets the kernel paint it and hands it
+// over. What an effect leaves alone is black, and the fourth byte of every result is 0. The source is never
+// changed: two kernels on one source do not add up.
 //
 // Everything here runs under the resume-next rule and raises nothing. On an empty source FXWidth and FXHeight
 // keep the values of the run before and the destination is made by them, but no kernel can read or store

@@ -1,8 +1,8 @@
 // What a kernel gets: the two pixel arrays of a run, and its arguments.
 //
-// Both arrays run x fastest, rows from the top. A pixel's bytes are blue, green, red and the fourth byte,
-// which no kernel writes: with a destination that is all zero at the start, the fourth byte of every result
-// is 0.
+// Both arrays run x fastest, rows from the top. A pixel's bytes are blue, green, red and the fourth byte.
+// Every byte that an effect leaves alone, the fourth ones among them, comes out as 0: the destination may
+// hold anything before, and a kernel sees to all of it.
 #pragma once
 
 #include "forms/Picture.h"
@@ -13,7 +13,7 @@
 
 namespace mirelle {
 
-// Both spans hold width x height pixels and do not overlap; the destination is all zero.
+// Both spans hold width x height pixels and do not overlap.
 struct KernelFrame {
     std::span<const Pixel> source;
     std::span<Pixel> destination;

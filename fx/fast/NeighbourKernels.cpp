@@ -88,11 +88,13 @@ MIRELLE_VERSIONS void Embossed(const KernelFrame& frame, std::int16_t offset) {
 
 // The first row, the third from below and the last one stay 0.
 void FXFlatten(const KernelFrame& frame, const KernelArguments&) {
-    if (frame.height < 5) return;
+    if (frame.height < 5) return static_cast<void>(std::ranges::fill(frame.destination, Pixel{}));
     const auto width = static_cast<std::size_t>(frame.width);
     const auto height = static_cast<std::size_t>(frame.height);
     const Pixel* source = frame.source.data();
     Pixel* destination = frame.destination.data();
+    const auto blacken = [&](std::size_t row) { std::fill_n(destination + row * width, width, Pixel{}); };
+    blacken(0);
     Contrasted(source + width, source + 3 * width, destination + width, (height - 4) * width);
     for (std::size_t i = (height - 2) * width; i < (height - 1) * width; ++i) {
         const Pixel& upper = source[i - 2 * width];
@@ -100,6 +102,8 @@ void FXFlatten(const KernelFrame& frame, const KernelArguments&) {
         destination[i] = {ThirdValue(upper.blue, lower.blue), ThirdValue(upper.green, lower.green),
                           ThirdValue(upper.red, lower.red), 0};
     }
+    blacken(height - 3);
+    blacken(height - 1);
 }
 
 void FXFlatten2(const KernelFrame& frame, const KernelArguments&) {

@@ -1,6 +1,8 @@
 #include "fx/fast/FastKernels.h"
 #include "fx/fast/Lanes.h"
 
+#include <algorithm>
+
 namespace mirelle::fast {
 namespace {
 
@@ -65,6 +67,8 @@ void FXPixelated(const KernelFrame& frame, const KernelArguments&) {
             EvenRow(row, destination, width);
         } else if (y + 1 < height) {
             OddRow(row, row + width, destination, width);
+        } else {
+            std::fill_n(destination, width, Pixel{});
         }
     }
 }

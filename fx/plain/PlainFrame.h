@@ -1,5 +1,5 @@
 // The words in which the plain kernels are written: checked working values, one set of three a pixel, and a
-// frame whose reads and stores fail off the picture.
+// frame that is all 0 at first and whose reads and stores fail off the picture.
 //
 // Every statement of a plain kernel that can fail stands in a ResumeNext of its own, so that its target keeps
 // the value of the previous pixel. That is how the edges of a picture come about.
@@ -9,6 +9,7 @@
 #include "forms/RunTimeError.h"
 #include "fx/KernelFrame.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -53,7 +54,9 @@ inline void Clamp(Integer& value) {
 
 class PlainFrame {
 public:
-    explicit PlainFrame(const KernelFrame& frame) : frame_(frame) {}
+    explicit PlainFrame(const KernelFrame& frame) : frame_(frame) {
+        std::ranges::fill(frame.destination, Pixel{});
+    }
 
     int Width() const { return frame_.width; }
     int Height() const { return frame_.height; }

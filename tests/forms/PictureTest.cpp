@@ -117,6 +117,18 @@ TEST(Bitmap, IsMadeFromRowsThatStartBlackAndComeFromTheTop) {
     EXPECT_EQ(bitmap.ByteCount(), 24U);
 }
 
+TEST(Bitmap, UnwrittenHasItsSizeAndRaisesWhatASizeRaises) {
+    Bitmap bitmap = Bitmap::Unwritten(3, 2);
+    EXPECT_EQ(bitmap.Width(), 3);
+    EXPECT_EQ(bitmap.Height(), 2);
+    EXPECT_EQ(bitmap.Pixels().size(), 6U);
+    std::ranges::fill(bitmap.Pixels(), Pixel{1, 2, 3, 4});
+    EXPECT_EQ(bitmap, Bitmap(3, 2, {1, 2, 3, 4}));
+    constexpr int kMost = std::numeric_limits<int>::max();
+    EXPECT_EQ(ErrorOf([] { Bitmap::Unwritten(kMost, kMost); }), ErrorNumber::OutOfMemory);
+    EXPECT_EQ(ErrorOf([] { Bitmap::Unwritten(-1, 1); }), ErrorNumber::InvalidProcedureCall);
+}
+
 TEST(Bitmap, FromRowsRaisesWhatASizeRaises) {
     const auto nothing = [](int, std::span<Pixel>) {};
     constexpr int kMost = std::numeric_limits<int>::max();

@@ -5,6 +5,7 @@
 #include "tests/support/ErrorOf.h"
 #include "tests/support/TestPictures.h"
 
+#include <algorithm>
 #include <deque>
 
 namespace mirelle::test {
@@ -85,15 +86,34 @@ TEST(IMFXModule1Test, AClockBeyond32BitsKeepsTheFormerReading) {
     EXPECT_EQ(ErrorOf([&] { module.GetTimeMs(); }), ErrorNumber::Overflow);
 }
 
-TEST(IMFXModule1Test, BeginMakesADestinationOfZeros) {
+TEST(IMFXModule1Test, BeginMakesADestinationOfTheSourcesSizeAndEndHandsItOver) {
     ReadingsClock clock({0});
     IMFXModule1 module(clock);
     module.BeginFX(Picture{NoiseBitmap(6, 3, 3)});
-    EXPECT_EQ(module.DstPix, Bitmap(6, 3));
+    EXPECT_EQ(module.DstPix.Width(), 6);
+    EXPECT_EQ(module.DstPix.Height(), 3);
     EXPECT_EQ(module.SrcPix.Pixels(), NoiseBitmap(6, 3, 3));
+    module.DstPix.At(5, 2) = Pixel{1, 2, 3, 0};
     Picture destination;
     module.EndFX(destination);
-    EXPECT_EQ(destination.Pixels(), Bitmap(6, 3));
+    EXPECT_EQ(destination.Pixels().At(5, 2), (Pixel{1, 2, 3, 0}));
+    EXPECT_TRUE(module.DstPix.IsEmpty());
+}
+
+// Whatever the memory of the destination was before: here that of a large picture which has just gone.
+TEST(IMFXModule1Test, WhatAKernelLeavesAloneIsBlack) {
+    ReadingsClock clock({0});
+    IMFXModule1 module(clock);
+    const Picture source{NoiseBitmap(640, 512, 4)};
+    { const Bitmap gone(640, 512, {1, 2, 3, 4}); }
+    Picture destination;
+    module.Run(&KernelSet::FXFlatten, source, destination);
+    for (const int row : {0, 509, 511})
+        EXPECT_TRUE(std::ranges::all_of(destination.Pixels().Row(row), [](Pixel p) { return p == Pixel{}; }))
+            << row;
+    { const Bitmap gone(640, 512, {1, 2, 3, 4}); }
+    module.Run(&KernelSet::FXFlatten, Picture(), destination);
+    EXPECT_EQ(destination.Pixels(), Bitmap(640, 512));
 }
 
 TEST(IMFXModule1Test, AnEmptySourceAtFirstLeavesTheDestination) {

@@ -21,10 +21,10 @@ struct NamedKernelSet {
     friend void PrintTo(const NamedKernelSet& named, std::ostream* out) { *out << named.name; }
 };
 
-// The picture that a kernel gives.
+// The picture that a kernel gives. It starts as anything but black.
 inline Bitmap Painted(const KernelSet& set, Kernel kernel, const Bitmap& source,
                       const KernelArguments& arguments = {}) {
-    Bitmap destination(source.Width(), source.Height());
+    Bitmap destination(source.Width(), source.Height(), {0xA5, 0x5A, 0xC3, 0x3C});
     (set.*kernel)({source.Pixels(), destination.Pixels(), source.Width(), source.Height()}, arguments);
     return destination;
 }
