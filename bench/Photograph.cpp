@@ -117,12 +117,13 @@ void AddNoise(Bitmap& bitmap, std::mt19937& random) {
 Bitmap MakePhotograph(int width, int height) {
     std::mt19937 random(1);
     const Ground ground(width, height);
-    Bitmap bitmap = Bitmap::FromRows(width, height, [&](int y, std::span<Pixel> row) {
+    Bitmap bitmap = Bitmap::Unwritten(width, height);
+    for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             const Ink ink = ground.At(x, y);
-            row[static_cast<std::size_t>(x)] = {Byte(ink.blue), Byte(ink.green), Byte(ink.red), 255};
+            bitmap.At(x, y) = {Byte(ink.blue), Byte(ink.green), Byte(ink.red), 255};
         }
-    });
+    }
     for (int i = 0; i < kShapes; ++i)
         Tint(bitmap, RandomShape(random, width, height));
     AddNoise(bitmap, random);

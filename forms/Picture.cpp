@@ -30,19 +30,6 @@ Bitmap Bitmap::Unwritten(int width, int height) {
     return bitmap;
 }
 
-Bitmap Bitmap::FromRows(int width, int height, const FillRow& fill) {
-    Bitmap bitmap;
-    const std::size_t count = PixelCount(width, height);
-    WithinMemory([&] { bitmap.pixels_.reserve(count); });
-    bitmap.width_ = width;
-    bitmap.height_ = height;
-    for (int y = 0; y < height; ++y) {
-        bitmap.pixels_.resize(bitmap.pixels_.size() + static_cast<std::size_t>(width), Pixel{});
-        fill(y, bitmap.Row(y));
-    }
-    return bitmap;
-}
-
 const Bitmap& Picture::Pixels() const {
     static const Bitmap kNoPixels;
     return bitmap_ ? *bitmap_ : kNoPixels;

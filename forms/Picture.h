@@ -11,7 +11,6 @@
 #include <compare>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <span>
 #include <vector>
@@ -55,10 +54,6 @@ public:
     Bitmap(int width, int height, Pixel fill = {});
     // Its pixels hold anything until they are written. Raises the same errors.
     static Bitmap Unwritten(int width, int height);
-    // Each row is made and filled in turn, from the top: a large bitmap goes through the memory once. Raises
-    // the same errors.
-    using FillRow = std::function<void(int y, std::span<Pixel> row)>;
-    static Bitmap FromRows(int width, int height, const FillRow& fill);
 
     int Width() const { return width_; }
     int Height() const { return height_; }

@@ -34,7 +34,7 @@ void ContrastEffect::ApplyContrast(const Variant& percent) {
     form_.Picture1b.Picture = form_.PicImage.Picture;
     ResumeNext([&] {
         const Picture source = form_.Picture1b.Image();
-        Bitmap result(source.Width(), source.Height());
+        Bitmap result = Bitmap::Unwritten(source.Width(), source.Height());
         Contrast(percent).Apply(source.Pixels().Pixels(), result.Pixels());
         form_.Picture1b.ShowImage(Picture(std::move(result)));
     });

@@ -129,7 +129,7 @@ Bitmap ReadJpeg(std::span<const std::uint8_t> file) {
     JpegDecoder decoder(file);
     if (!decoder.ReadHeader()) throw RunTimeError(decoder.Error());
     CheckPictureSize(decoder.Width(), decoder.Height());
-    Bitmap bitmap(decoder.Width(), decoder.Height());
+    Bitmap bitmap = Bitmap::Unwritten(decoder.Width(), decoder.Height());
     if (!decoder.ReadPixels(bitmap)) throw RunTimeError(decoder.Error());
     return bitmap;
 }

@@ -19,18 +19,20 @@ namespace {
 constexpr int kMegabytesForImages = static_cast<int>(kGreatestPixelCount * 4 / (1024 * 1024));
 
 Bitmap CopyOf(const QImage& image) {
-    Bitmap bitmap(image.width(), image.height());
+    Bitmap bitmap = Bitmap::Unwritten(image.width(), image.height());
     for (int y = 0; y < image.height(); ++y)
         std::memcpy(bitmap.Row(y).data(), image.constScanLine(y), bitmap.Row(y).size_bytes());
     return bitmap;
 }
 
 Bitmap CopyWithFourthBytesClear(const QImage& image) {
-    return Bitmap::FromRows(image.width(), image.height(), [&image](int y, std::span<Pixel> row) {
+    Bitmap bitmap = Bitmap::Unwritten(image.width(), image.height());
+    for (int y = 0; y < image.height(); ++y) {
         const auto* from = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        std::transform(from, from + image.width(), row.begin(),
+        std::transform(from, from + image.width(), bitmap.Row(y).begin(),
                        [](QRgb pixel) { return std::bit_cast<Pixel>(pixel & RGB_MASK); });
-    });
+    }
+    return bitmap;
 }
 
 // The toolkit keeps a pixel of these formats as one number 0xAARRGGBB.

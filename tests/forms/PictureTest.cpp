@@ -101,22 +101,6 @@ TEST(Bitmap, RaisesAnErrorForANegativeSize) {
     EXPECT_EQ(ErrorOf([] { Bitmap(1, -1); }), ErrorNumber::InvalidProcedureCall);
 }
 
-TEST(Bitmap, IsMadeFromRowsThatStartBlackAndComeFromTheTop) {
-    std::vector<int> rows;
-    const Bitmap bitmap = Bitmap::FromRows(3, 2, [&rows](int y, std::span<Pixel> row) {
-        rows.push_back(y);
-        EXPECT_EQ(row.size(), 3U);
-        EXPECT_EQ(row[2], Pixel{});
-        row[1].red = static_cast<std::uint8_t>(y + 5);
-    });
-    EXPECT_EQ(rows, (std::vector<int>{0, 1}));
-    EXPECT_EQ(bitmap.Width(), 3);
-    EXPECT_EQ(bitmap.Height(), 2);
-    EXPECT_EQ(bitmap.At(1, 0).red, 5);
-    EXPECT_EQ(bitmap.At(1, 1).red, 6);
-    EXPECT_EQ(bitmap.ByteCount(), 24U);
-}
-
 TEST(Bitmap, UnwrittenHasItsSizeAndRaisesWhatASizeRaises) {
     Bitmap bitmap = Bitmap::Unwritten(3, 2);
     EXPECT_EQ(bitmap.Width(), 3);
@@ -127,14 +111,6 @@ TEST(Bitmap, UnwrittenHasItsSizeAndRaisesWhatASizeRaises) {
     constexpr int kMost = std::numeric_limits<int>::max();
     EXPECT_EQ(ErrorOf([] { Bitmap::Unwritten(kMost, kMost); }), ErrorNumber::OutOfMemory);
     EXPECT_EQ(ErrorOf([] { Bitmap::Unwritten(-1, 1); }), ErrorNumber::InvalidProcedureCall);
-}
-
-TEST(Bitmap, FromRowsRaisesWhatASizeRaises) {
-    const auto nothing = [](int, std::span<Pixel>) {};
-    constexpr int kMost = std::numeric_limits<int>::max();
-    EXPECT_EQ(ErrorOf([&] { Bitmap::FromRows(kMost, kMost, nothing); }), ErrorNumber::OutOfMemory);
-    EXPECT_EQ(ErrorOf([&] { Bitmap::FromRows(-1, 1, nothing); }), ErrorNumber::InvalidProcedureCall);
-    EXPECT_TRUE(Bitmap::FromRows(0, 5, nothing).IsEmpty());
 }
 
 TEST(Bitmap, RaisesOutOfMemoryForASizeThatNoMemoryHolds) {
