@@ -78,7 +78,7 @@ void BlendStretched(Bitmap& destination, PixelArea to, const Bitmap& source, Pix
 
 } // namespace
 
-MIRELLE_VERSIONED
+MIRELLE_VERSIONS
 void BlendRow(std::span<std::uint8_t> destination, std::span<const std::uint8_t> source, std::uint8_t alpha) {
     const std::size_t count = std::min(destination.size(), source.size());
     std::uint8_t* to = destination.data();

@@ -182,7 +182,7 @@ void Stretch::DrawWeighted(const Part& part) {
 
 // Two pixels of two rows to one pixel, four bytes at a time: the even and the odd bytes of a pixel are held
 // in the 16-bit halves of two words.
-MIRELLE_VERSIONED void HalveRows(const Pixel* upper, const Pixel* lower, Pixel* out, std::size_t count) {
+MIRELLE_VERSIONS void HalveRows(const Pixel* upper, const Pixel* lower, Pixel* out, std::size_t count) {
     constexpr std::uint32_t kHalves = 0x00FF00FF;
     constexpr std::uint32_t kRounding = 0x00020002;
     const auto word = [](const Pixel& pixel) { return std::bit_cast<std::uint32_t>(pixel); };

@@ -54,7 +54,7 @@ inline std::uint8_t Moved(std::uint8_t was, std::uint8_t source, std::uint8_t di
 }
 
 // A block through its chains; the factors of link k begin at factors[k * stride].
-MIRELLE_VERSIONED
+MIRELLE_VERSIONS
 void BlendBlock(std::uint8_t* to, const std::uint8_t* from, const std::int16_t* factors, std::size_t stride,
                 std::size_t links) {
     std::array<std::int16_t, kBlock> distances;
@@ -70,7 +70,7 @@ void BlendBlock(std::uint8_t* to, const std::uint8_t* from, const std::int16_t* 
 }
 
 // The same with one chain for all bytes.
-MIRELLE_VERSIONED
+MIRELLE_VERSIONS
 void BlendBlockAlike(std::uint8_t* to, const std::uint8_t* from, const std::int16_t* factors,
                      std::size_t links) {
     std::array<std::int16_t, kBlock> distances;
@@ -138,14 +138,14 @@ std::optional<std::uint8_t> LimitOf(std::span<const std::uint8_t> alphas) {
     return limit;
 }
 
-MIRELLE_VERSIONED
+MIRELLE_VERSIONS
 void LimitDistances(std::uint8_t* to, const std::uint8_t* from, const std::uint8_t* limits,
                     std::size_t bytes) {
     for (std::size_t i = 0; i < bytes; ++i)
         to[i] = Moved(to[i], from[i], std::min(Distance(to[i], from[i]), limits[i]));
 }
 
-MIRELLE_VERSIONED
+MIRELLE_VERSIONS
 void LimitDistances(std::uint8_t* to, const std::uint8_t* from, std::uint8_t limit, std::size_t bytes) {
     for (std::size_t i = 0; i < bytes; ++i)
         to[i] = Moved(to[i], from[i], std::min(Distance(to[i], from[i]), limit));

@@ -7,7 +7,7 @@
 // part of the result to the bit.
 #pragma once
 
-#include "codecs/jpeg/Inline.h"
+#include "forms/FunctionVersions.h"
 
 #include <cstddef>
 #include <cstdint>

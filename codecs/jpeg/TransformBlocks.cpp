@@ -2,8 +2,8 @@
 
 #include "codecs/jpeg/Colour.h"
 #include "codecs/jpeg/ForwardDCT.h"
-#include "codecs/jpeg/Inline.h"
 #include "codecs/jpeg/Tables.h"
+#include "forms/FunctionVersions.h"
 
 #include <bit>
 #include <cstring>

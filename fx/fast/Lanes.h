@@ -5,8 +5,8 @@
 // in a copy. Every result's fourth byte is 0, whatever the work gives there.
 #pragma once
 
+#include "forms/FunctionVersions.h"
 #include "forms/Picture.h"
-#include "fx/fast/FunctionVersions.h"
 
 #include <array>
 #include <bit>
