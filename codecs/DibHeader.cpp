@@ -36,7 +36,7 @@ constexpr std::array kKinds = {
 }
 
 DibCompression CompressionOf(std::uint32_t value, int bitCount) {
-    const auto* kind = std::find_if(kKinds.begin(), kKinds.end(), [&](const Kind& each) {
+    const auto kind = std::find_if(kKinds.begin(), kKinds.end(), [&](const Kind& each) {
         const bool hasCount =
             std::find(each.bitCounts.begin(), each.bitCounts.end(), bitCount) != each.bitCounts.end();
         return static_cast<std::uint32_t>(each.compression) == value && hasCount;

@@ -44,7 +44,7 @@ bool IsInAnyCase(std::string_view text, std::string_view lowerCase) {
 std::optional<std::string_view> MimeTypeOf(std::string_view fileName) {
     if (fileName.size() < kEndingLength) return std::nullopt;
     const std::string_view ending = fileName.substr(fileName.size() - kEndingLength);
-    const auto* row =
+    const auto row =
         std::find_if(kExtensions.begin(), kExtensions.end(),
                      [ending](const Extension& extension) { return IsInAnyCase(ending, extension.ending); });
     if (row == kExtensions.end()) return std::nullopt;
@@ -73,7 +73,7 @@ bool SaveImageGDIPlus(ImageEncoders& encoders, const Picture& picture, const std
 }
 
 std::optional<ImageFormat> GetEncoderClsid(std::string_view mimeType) {
-    const auto* row = std::find_if(kEncoders.begin(), kEncoders.end(), [mimeType](const Encoder& encoder) {
+    const auto row = std::find_if(kEncoders.begin(), kEncoders.end(), [mimeType](const Encoder& encoder) {
         return IsInAnyCase(mimeType, encoder.mimeType);
     });
     if (row == kEncoders.end()) return std::nullopt;

@@ -40,8 +40,8 @@ constexpr std::array kDescriptions = {
 } // namespace
 
 std::string DescriptionOf(ErrorNumber number) {
-    const auto* row = std::find_if(kDescriptions.begin(), kDescriptions.end(),
-                                   [number](const Row& candidate) { return candidate.number == number; });
+    const auto row = std::find_if(kDescriptions.begin(), kDescriptions.end(),
+                                  [number](const Row& candidate) { return candidate.number == number; });
     return row != kDescriptions.end() ? row->description : "Application-defined or object-defined error";
 }
 

@@ -75,9 +75,9 @@ Picture DefaultGradientPicture() {
     Bitmap sky(kSide, kSide);
     for (int y = 0; y < kSide; ++y) {
         const double at = static_cast<double>(y) / (kSide - 1);
-        const auto* upper =
+        const auto upper =
             std::find_if(kDusk.begin() + 1, kDusk.end() - 1, [at](const Stop& s) { return at <= s.at; });
-        const auto* lower = upper - 1;
+        const auto lower = upper - 1;
         const double share = (at - lower->at) / (upper->at - lower->at);
         const auto mix = [share](double from, double to) {
             return static_cast<int>(std::lround(from + (to - from) * share));

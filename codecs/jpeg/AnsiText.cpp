@@ -37,8 +37,8 @@ Decoded DecodeFirst(std::string_view text) {
         Form{0xF0, 0xF8, 0x10000, 4},
     };
     const char32_t lead = byteAt(0);
-    const auto* form = std::find_if(kForms.begin(), kForms.end(),
-                                    [lead](const Form& f) { return (lead & f.mask) == f.lead; });
+    const auto form = std::find_if(kForms.begin(), kForms.end(),
+                                   [lead](const Form& f) { return (lead & f.mask) == f.lead; });
     if (form == kForms.end()) return {};
     char32_t character = lead & ~form->mask & 0xFF;
     for (std::size_t i = 1; i < form->bytes; ++i) {
@@ -52,7 +52,7 @@ Decoded DecodeFirst(std::string_view text) {
 
 char AnsiByte(char32_t character) {
     if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) return static_cast<char>(character);
-    const auto* place = std::find(kUpperControls.begin(), kUpperControls.end(), character);
+    const auto place = std::find(kUpperControls.begin(), kUpperControls.end(), character);
     return place == kUpperControls.end() ? '?' : static_cast<char>(0x80 + (place - kUpperControls.begin()));
 }
 

@@ -51,8 +51,8 @@ constexpr std::array kEncoders = {
 } // namespace
 
 std::vector<std::uint8_t> EncodePicture(const Picture& picture, ImageFormat format) {
-    const auto* encoder = std::find_if(kEncoders.begin(), kEncoders.end(),
-                                       [format](const Encoder& each) { return each.format == format; });
+    const auto encoder = std::find_if(kEncoders.begin(), kEncoders.end(),
+                                      [format](const Encoder& each) { return each.format == format; });
     if (picture.IsEmpty() || picture.Pixels().IsEmpty() || encoder == kEncoders.end())
         throw RunTimeError(ErrorNumber::InvalidPicture);
     return encoder->write(picture.Pixels());

@@ -47,8 +47,8 @@ constexpr std::array kKinds = {
 
 Picture DecodePicture(Bytes file) {
     const std::string_view text(reinterpret_cast<const char*>(file.data()), file.size());
-    const auto* kind = std::find_if(kKinds.begin(), kKinds.end(),
-                                    [text](const Kind& each) { return text.starts_with(each.beginning); });
+    const auto kind = std::find_if(kKinds.begin(), kKinds.end(),
+                                   [text](const Kind& each) { return text.starts_with(each.beginning); });
     if (kind == kKinds.end()) throw RunTimeError(ErrorNumber::InvalidPicture);
     return Picture(kind->read(file));
 }

@@ -62,7 +62,7 @@ QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
     if (auto* option = qobject_cast<QRadioButton*>(object)) return new OptionInterface(*option);
     auto* widget = qobject_cast<QWidget*>(object);
     if (!widget) return nullptr;
-    const auto* row = std::ranges::find_if(
+    const auto row = std::ranges::find_if(
         kRoles, [&](const RoleRow& entry) { return className == QLatin1String(entry.widget); });
     if (row != kRoles.end()) return new QAccessibleWidget(widget, row->role); // Qt's cache owns it
     // A plain widget with a name is a group of others.

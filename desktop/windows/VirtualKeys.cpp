@@ -56,7 +56,7 @@ std::optional<VirtualKey> NamedKey(Key key) {
     if (key >= Key::F1 && key <= Key::F16)
         return VirtualKey{static_cast<WORD>(VK_F1 + (static_cast<int>(key) - static_cast<int>(Key::F1))),
                           false};
-    const auto* row =
+    const auto row =
         std::find_if(kNamed.begin(), kNamed.end(), [key](const NamedRow& each) { return each.key == key; });
     if (row == kNamed.end()) return std::nullopt;
     return VirtualKey{row->code, row->extended};

@@ -10,9 +10,8 @@ namespace mirelle::test {
 namespace {
 
 const KernelButton& Button(std::string_view control) {
-    const auto* const found =
-        std::find_if(kKernelButtons.begin(), kKernelButtons.end(),
-                     [&](const KernelButton& button) { return button.control == control; });
+    const auto found = std::find_if(kKernelButtons.begin(), kKernelButtons.end(),
+                                    [&](const KernelButton& button) { return button.control == control; });
     if (found == kKernelButtons.end()) throw std::out_of_range("no button " + std::string(control));
     return *found;
 }
