@@ -7,7 +7,10 @@ function(mirelle_settings target)
     set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
     target_include_directories(${target} PUBLIC ${MIRELLE_ROOT})
     if(MSVC)
-        target_compile_options(${target} PRIVATE /W4 /WX /utf-8 /permissive-)
+        # Without the warnings of narrowing, for which the other compilers are not asked either.
+        target_compile_options(${target} PRIVATE /W4 /wd4244 /wd4245 /wd4267 /wd4389 /utf-8 /permissive- /bigobj
+            $<$<CONFIG:Debug>:/WX>)
+        target_compile_definitions(${target} PRIVATE NOMINMAX _CRT_SECURE_NO_WARNINGS) # getenv, fopen
     else()
         target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
             -Woverloaded-virtual -Wcast-align -Wextra-semi)
@@ -46,8 +49,28 @@ function(mirelle_program target)
     target_link_libraries(${target} PRIVATE ${ARG_LINK})
 endfunction()
 
-# mirelle_test(NAME sources... LINK targets...): a Google Test program, each of its tests known to CTest. One that is
-# built for another system is known as a whole: what runs it there costs more to start than most tests take.
+# mirelle_known_tests(NAME [PREFIX text] [FILTER patterns] [ENVIRONMENT variables...]): makes each test of a Google Test
+# program known to CTest; more than once, under other prefixes, for other environments. A program that is built for another
+# system is known as a whole: what runs it there costs more to start than most tests take.
+function(mirelle_known_tests target)
+    cmake_parse_arguments(ARG "" "PREFIX;FILTER" "ENVIRONMENT" ${ARGN})
+    if(NOT ARG_FILTER)
+        set(ARG_FILTER *)
+    endif()
+    set(environment)
+    if(ARG_ENVIRONMENT)
+        set(environment ENVIRONMENT "${ARG_ENVIRONMENT}")
+    endif()
+    if(CMAKE_CROSSCOMPILING)
+        add_test(NAME ${ARG_PREFIX}${target} COMMAND ${target} --gtest_filter=${ARG_FILTER})
+        set_tests_properties(${ARG_PREFIX}${target} PROPERTIES TIMEOUT 600 ${environment})
+    else()
+        gtest_discover_tests(${target} TEST_FILTER "${ARG_FILTER}" TEST_PREFIX "${ARG_PREFIX}"
+            PROPERTIES TIMEOUT 120 ${environment})
+    endif()
+endfunction()
+
+# mirelle_test(NAME sources... LINK targets...): a Google Test program, its tests known to CTest.
 function(mirelle_test target)
     mirelle_program(${target} ${ARGN})
     target_link_libraries(${target} PRIVATE GTest::gmock_main)
@@ -55,10 +78,5 @@ function(mirelle_test target)
     if(NOT MSVC)
         target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O0>)
     endif()
-    if(CMAKE_CROSSCOMPILING)
-        add_test(NAME ${target} COMMAND ${target})
-        set_tests_properties(${target} PROPERTIES TIMEOUT 600)
-    else()
-        gtest_discover_tests(${target} PROPERTIES TIMEOUT 120)
-    endif()
+    mirelle_known_tests(${target})
 endfunction()
