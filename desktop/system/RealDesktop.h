@@ -5,7 +5,6 @@
 #include "desktop/system/QtClipboard.h"
 #include "desktop/system/QtDialogs.h"
 #include "desktop/system/QtEventPump.h"
-#include "desktop/system/QtProcess.h"
 #include "desktop/system/QtScreen.h"
 #include "forms/Ports.h"
 
@@ -31,7 +30,7 @@ private:
     std::unique_ptr<PictureLoader> loader_;
     std::unique_ptr<ImageEncoders> encoders_;
     QtClipboard clipboard_;
-    QtProcess process_;
+    std::unique_ptr<Process> process_;
     std::unique_ptr<SystemViewer> viewer_;
     std::unique_ptr<ConsoleShell> console_;
     std::unique_ptr<Keyboard> keyboard_;

@@ -1,8 +1,8 @@
 #include "desktop/windows/GdiPlusEncoders.h"
 
 #include "desktop/windows/DeviceBitmap.h"
+#include "desktop/windows/GdiPlus.h"
 #include "desktop/windows/NewFile.h"
-#include "desktop/windows/System.h"
 #include "desktop/windows/Wide.h"
 #include "forms/RunTimeError.h"
 
@@ -11,10 +11,6 @@
 #include <cwchar>
 #include <optional>
 #include <vector>
-
-// Its header colours by a macro of the system's that the program's own function of that name stands for here.
-using mirelle::RGB;
-#include <gdiplus.h>
 
 namespace mirelle {
 namespace {
@@ -37,8 +33,8 @@ bool SameInAnyCase(const wchar_t* first, const wchar_t* second) {
 
 // The class of the encoder for a format, as the system lists its encoders; nothing where it has none.
 std::optional<CLSID> EncoderClsid(ImageFormat format) {
-    const auto* wanted = std::find_if(kMimeTypes.begin(), kMimeTypes.end(),
-                                      [format](const MimeRow& row) { return row.format == format; });
+    const auto wanted = std::find_if(kMimeTypes.begin(), kMimeTypes.end(),
+                                     [format](const MimeRow& row) { return row.format == format; });
     UINT count = 0;
     UINT size = 0;
     if (wanted == kMimeTypes.end() || flat::GdipGetImageEncodersSize(&count, &size) != Gdiplus::Ok ||

@@ -5,6 +5,7 @@
 #include "desktop/windows/WindowsConsole.h"
 #include "desktop/windows/WindowsKeyboard.h"
 #include "desktop/windows/WindowsPictures.h"
+#include "desktop/windows/WindowsProcess.h"
 #include "desktop/windows/WindowsViewer.h"
 
 namespace mirelle {
@@ -16,14 +17,15 @@ constexpr const char* kDumpFile = "c:\\komp.txt";
 
 RealDesktop::RealDesktop(const std::string& home)
     : files_(home, kDumpFile), loader_(std::make_unique<WindowsPictures>(files_)),
-      encoders_(std::make_unique<GdiPlusEncoders>()), viewer_(std::make_unique<WindowsViewer>()),
-      console_(std::make_unique<WindowsConsole>()), keyboard_(std::make_unique<WindowsKeyboard>()) {}
+      encoders_(std::make_unique<GdiPlusEncoders>()), process_(std::make_unique<WindowsProcess>()),
+      viewer_(std::make_unique<WindowsViewer>()), console_(std::make_unique<WindowsConsole>()),
+      keyboard_(std::make_unique<WindowsKeyboard>()) {}
 
 RealDesktop::~RealDesktop() = default;
 
 Ports RealDesktop::ThePorts() {
     return {clipboard_, dialogs,   files_,   *loader_, *encoders_, pump,
-            *keyboard_, *console_, *viewer_, screen,   process_};
+            *keyboard_, *console_, *viewer_, screen,   *process_};
 }
 
 } // namespace mirelle

@@ -2,7 +2,7 @@
 #include "desktop/windows/GdiPlusEncoders.h"
 
 #include "codecs/modGDIPlus.h"
-#include "desktop/windows/System.h"
+#include "desktop/windows/GdiPlus.h"
 #include "desktop/windows/Wide.h"
 #include "tests/support/Patterns.h"
 #include "tests/support/TemporaryFolder.h"
@@ -11,9 +11,6 @@
 #include <filesystem>
 
 #include <gmock/gmock.h>
-
-using mirelle::RGB;
-#include <gdiplus.h>
 
 namespace mirelle {
 namespace {
