@@ -24,6 +24,12 @@ struct Desk::Server {
 
     Display* Show() const { return connection->Server(); }
 
+    Window WindowOf(const std::string& title) const {
+        const Window window = x11::FindWindow(*connection, title);
+        if (window == 0) throw std::runtime_error("no window is titled " + title);
+        return window;
+    }
+
     QImage Pixels(const Place& place) const {
         XImage* seen = XGetImage(Show(), connection->Root(), place.x, place.y, unsigned(place.width),
                                  unsigned(place.height), AllPlanes, ZPixmap);
@@ -75,10 +81,22 @@ void Desk::TakePicture(const std::string& file) const {
 }
 
 void Desk::PlaceWindow(const std::string& title, const Place& place) {
-    const Window window = x11::FindWindow(*server_->connection, title);
-    if (window == 0) throw std::runtime_error("no window is titled " + title);
+    const Window window = server_->WindowOf(title);
     XMoveResizeWindow(server_->Show(), window, place.x, place.y, unsigned(place.width),
                       unsigned(place.height));
+    server_->connection->Sync();
+}
+
+void Desk::CloseWindow(const std::string& title) {
+    XEvent event{};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = server_->WindowOf(title);
+    event.xclient.message_type = server_->connection->Named("_NET_CLOSE_WINDOW");
+    event.xclient.format = 32;
+    event.xclient.data.l[0] = CurrentTime;
+    event.xclient.data.l[1] = 2; // a user's wish
+    XSendEvent(server_->Show(), server_->connection->Root(), False,
+               SubstructureRedirectMask | SubstructureNotifyMask, &event);
     server_->connection->Sync();
 }
 

@@ -39,6 +39,8 @@ public:
     void TakePicture(const std::string& file) const;
     // Moves and sizes the first window of this title; the window manager may have its say.
     void PlaceWindow(const std::string& title, const Place& place);
+    // Asks it to close, as the cross in its title bar does.
+    void CloseWindow(const std::string& title);
 
 private:
     struct Server;

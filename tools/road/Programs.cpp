@@ -10,8 +10,10 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstring>
 #include <stdexcept>
+#include <utility>
 
 namespace mirelle::road {
 namespace {
@@ -37,27 +39,62 @@ int ConnectTo(const std::string& path) {
 
 } // namespace
 
-RunningProgram::RunningProgram(const std::string& program, const std::vector<std::string>& arguments)
-    : process_(std::make_unique<QProcess>()) {
-    process_->setProcessChannelMode(QProcess::ForwardedChannels);
-    process_->start(QString::fromStdString(program), Words(arguments));
-    if (!process_->waitForStarted()) throw std::runtime_error("cannot start " + program);
+RunningProgram::RunningProgram(const Command& command) : RunningProgram(command, {}) {}
+
+RunningProgram::RunningProgram(const Command& first, const Command& second) {
+    for (const Command* command : {&first, &second}) {
+        if (command->empty()) continue;
+        auto process = std::make_unique<QProcess>();
+        process->setProcessChannelMode(QProcess::ForwardedChannels);
+        process->setProgram(QString::fromStdString(command->front()));
+        process->setArguments(Words({command->begin() + 1, command->end()}));
+        processes_.push_back(std::move(process));
+    }
+    if (processes_.size() == 2) {
+        processes_[0]->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        processes_[0]->setStandardOutputProcess(processes_[1].get());
+    }
+    for (const auto& process : processes_) {
+        process->start();
+        if (!process->waitForStarted())
+            throw std::runtime_error("cannot start " + process->program().toStdString());
+    }
 }
 
 RunningProgram::~RunningProgram() {
-    process_->terminate();
-    if (!process_->waitForFinished()) process_->kill();
+    for (const auto& process : processes_) {
+        process->terminate();
+        if (!process->waitForFinished()) process->kill();
+    }
 }
 
 bool RunningProgram::IsRunning() const {
-    return !process_->waitForFinished(0) && process_->state() == QProcess::Running;
+    return std::ranges::all_of(processes_, [](const auto& process) {
+        return !process->waitForFinished(0) && process->state() == QProcess::Running;
+    });
 }
 
-Console::Console(const std::string& title, const std::string& folder, const Place& place)
-    : socket_(folder + "/" + std::to_string(getpid()) + "-" + std::to_string(place.x) + ".socket"),
-      program_(MIRELLE_RUBY_CONSOLE, {title, socket_, std::to_string(place.x), std::to_string(place.y),
-                                      std::to_string(place.width), std::to_string(place.height)}) {
-    Await("the interpreter behind " + title, [&] { return (connection_ = ConnectTo(socket_)) >= 0; });
+void RunningProgram::AwaitEnd() const {
+    Await("the end of " + processes_.front()->program().toStdString(), [this] { return !IsRunning(); });
+}
+
+ConsoleStarter RubyConsole(const std::string& title, const Place& place) {
+    return [=](const std::string& socket) {
+        return std::make_unique<RunningProgram>(
+            Command{MIRELLE_RUBY_CONSOLE, title, socket, std::to_string(place.x), std::to_string(place.y),
+                    std::to_string(place.width), std::to_string(place.height)});
+    };
+}
+
+ConsoleStarter ConsoleOf(const Command& typing) {
+    return [=](const std::string& socket) {
+        return std::make_unique<RunningProgram>(typing, Command{"ruby", MIRELLE_RUBY_MODEL, socket});
+    };
+}
+
+Console::Console(const std::string& folder, const ConsoleStarter& start)
+    : socket_(folder + "/" + std::to_string(getpid()) + ".socket"), program_(start(socket_)) {
+    Await("the interpreter behind the console", [&] { return (connection_ = ConnectTo(socket_)) >= 0; });
 }
 
 Console::~Console() {
@@ -87,8 +124,9 @@ void Console::AwaitAnswer(const std::string& expression, const std::string& answ
 }
 
 void PutOnClipboard(const std::string& pictureFile) {
+    const std::string type = pictureFile.ends_with(".bmp") ? "image/bmp" : "image/png";
     // It stays behind as a program of its own until someone else owns the clipboard.
-    const std::vector<std::string> words{"-selection", "clipboard", "-t", "image/png", "-i", pictureFile};
+    const std::vector<std::string> words{"-selection", "clipboard", "-t", type, "-i", pictureFile};
     if (QProcess::execute("xclip", Words(words)) != 0) throw std::runtime_error("nothing was copied");
 }
 

@@ -4,6 +4,7 @@
 
 #include "tools/road/Desk.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -12,25 +13,39 @@ class QProcess;
 
 namespace mirelle::road {
 
+// A program and its arguments.
+using Command = std::vector<std::string>;
+
 class RunningProgram {
 public:
     // Throws where it can't be started.
-    RunningProgram(const std::string& program, const std::vector<std::string>& arguments);
+    explicit RunningProgram(const Command& command);
+    // What the first writes the second reads; both are let go together.
+    RunningProgram(const Command& first, const Command& second);
     ~RunningProgram();
     RunningProgram(const RunningProgram&) = delete;
     RunningProgram& operator=(const RunningProgram&) = delete;
 
     bool IsRunning() const;
+    // Waits for its end.
+    void AwaitEnd() const;
 
 private:
-    std::unique_ptr<QProcess> process_;
+    std::vector<std::unique_ptr<QProcess>> processes_;
 };
 
+// Starts a console's window and an interpreter behind it, which answers at the socket.
+using ConsoleStarter = std::function<std::unique_ptr<RunningProgram>(const std::string& socket)>;
+
 // The window of RubyConsole.cpp.
+ConsoleStarter RubyConsole(const std::string& title, const Place& place);
+// A window of which another program is asked for each line that was typed: `typing` writes them.
+ConsoleStarter ConsoleOf(const Command& typing);
+
 class Console {
 public:
     // `folder` is where its socket stands.
-    Console(const std::string& title, const std::string& folder, const Place& place);
+    Console(const std::string& folder, const ConsoleStarter& start);
     ~Console();
     Console(const Console&) = delete;
     Console& operator=(const Console&) = delete;
@@ -42,11 +57,11 @@ public:
 
 private:
     std::string socket_;
-    RunningProgram program_;
+    std::unique_ptr<RunningProgram> program_;
     int connection_ = -1;
 };
 
-// Puts a PNG file on the clipboard, as another program does that is asked for a copy.
+// Puts a PNG or BMP file on the clipboard, as another program does that is asked for a copy.
 void PutOnClipboard(const std::string& pictureFile);
 
 } // namespace mirelle::road

@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
+#include <utility>
 
 namespace mirelle::road {
 namespace {
@@ -18,6 +19,8 @@ constexpr const char* kFiles = "Click to preview image file";
 constexpr const char* kChart = "Click image to sample color to SketchUp Send palette to right";
 constexpr const char* kSlot = "Enter or sample RGB Color value to send to SketchUp";
 constexpr const char* kNames = "Materials Images";
+constexpr const char* kFastSave = "Fast Save: Save material sample to current path";
+constexpr const char* kTypes = "Select image file extension";
 
 // Something of each: far enough apart that no panel covers all of them.
 constexpr Place kProbes[] = {{40, 40, 1, 1}, {260, 200, 1, 1}, {400, 90, 1, 1}};
@@ -38,24 +41,31 @@ int NumberOf(const std::string& file) {
 
 } // namespace
 
-Road::Road(const std::string& program, std::string home)
-    : home_(std::move(home)), widgets_("Mirelle"), program_(program, {"--home", home_}) {
+Road::Road(Installation installation)
+    : installation_(std::move(installation)), widgets_("Mirelle", installation_.widgetsOf()),
+      program_(installation_.start) {
     EnterFolder("Art");
 }
 
+std::string Road::FileOf(const LibraryFile& file) const {
+    return installation_.home + "/Support/Materials/" + file.folder + "/" + file.file;
+}
+
 std::string Road::PathOf(const LibraryFile& file) const {
-    return home_ + "/Support/Materials/" + file.folder + "/" + file.file;
+    return installation_.pathOf(FileOf(file));
 }
 
 std::string Road::Name() const {
     // The panel's first field is the one in the list of names.
-    const Widget panel = widgets_.Await("panel", kNames);
-    for (const Widget& list : widgets_.In(panel)) {
-        if (list.role != "combo box") continue;
-        for (const Widget& part : widgets_.In(list))
-            if (part.role == "text") return widgets_.TextOf(part);
-    }
-    throw std::runtime_error("the name has no field");
+    for (const Widget& part : widgets_.In(widgets_.Await("panel", kNames)))
+        if (part.role == "combo box") return FieldOf(part);
+    throw std::runtime_error("the name has no list");
+}
+
+std::string Road::FieldOf(const Widget& list) const {
+    for (const Widget& part : widgets_.In(list))
+        if (part.role == "text") return widgets_.TextOf(part);
+    throw std::runtime_error(list.name + " has no field");
 }
 
 void Road::Press(const std::string& button) {
@@ -101,10 +111,35 @@ std::string Road::Drag(const Place& area) {
     return Name();
 }
 
+void Road::ChooseType(const std::string& type) {
+    // The accessibility bus names a list by its text.
+    std::optional<Widget> found;
+    Await("the list of types", [&] {
+        found = widgets_.Find([](const Widget& widget) {
+            return widget.role == "combo box" && (widget.name == kTypes || widget.name.starts_with("*."));
+        });
+        return found.has_value();
+    });
+    const Widget& list = *found;
+    const int arrow = list.place.height;
+    desk_.Click({list.place.x + list.place.width - arrow, list.place.y, arrow, arrow});
+    desk_.Click(widgets_.Await("list item", type).place);
+    Await(type, [&] { return FieldOf(list) == type; });
+}
+
 void Road::FastSave(const LibraryFile& saved) {
-    Press("Fast Save: Save material sample to current path");
+    // Once the pointer has been over it, it is named by the program's folder.
+    std::optional<Widget> button;
+    Await("the button to save", [&] {
+        button = widgets_.Find([this](const Widget& widget) {
+            return widget.role == "push button" &&
+                   (widget.name == kFastSave || widget.name == installation_.pathOf(installation_.home));
+        });
+        return button.has_value();
+    });
+    desk_.Click(button->place);
     widgets_.Await("label", "Last Save: " + saved.file);
-    Await(PathOf(saved), [&] { return std::filesystem::exists(PathOf(saved)); });
+    Await(FileOf(saved), [&] { return std::filesystem::exists(FileOf(saved)); });
 }
 
 void Road::Select(const LibraryFile& file) {
@@ -156,6 +191,11 @@ void Road::AwaitMessage(const std::string& text) {
     widgets_.Await("label", text);
     Press("OK");
     Await("the end of the message", [&] { return !widgets_.Find("label", text); });
+}
+
+void Road::Close() {
+    desk_.CloseWindow("Mirelle");
+    program_.AwaitEnd();
 }
 
 // Now and then the toolkit tells a row of a list as something without name or place until the list is filled

@@ -5,6 +5,7 @@
 // caller to ask the console.
 #pragma once
 
+#include "tools/road/Installation.h"
 #include "tools/road/Programs.h"
 #include "tools/road/ShownWidgets.h"
 
@@ -20,11 +21,12 @@ struct LibraryFile {
 
 class Road {
 public:
-    // `home` holds Support and belongs to this walk.
-    Road(const std::string& program, std::string home);
+    explicit Road(Installation installation);
 
     const ShownWidgets& Window() const { return widgets_; }
     Desk& TheDesk() { return desk_; }
+    // Where it lies, as this machine names it and as the program does.
+    std::string FileOf(const LibraryFile& file) const;
     std::string PathOf(const LibraryFile& file) const;
     // The material name that the window shows.
     std::string Name() const;
@@ -37,6 +39,8 @@ public:
     void Paste(const std::string& pictureFile);
     // Drags over an area of the canvas, in pixels of the picture, and returns the new sample's name.
     std::string Drag(const Place& area);
+    // What is saved and listed from now on: "*.png" and so on.
+    void ChooseType(const std::string& type);
     // Saves the sample and waits until the window tells so.
     void FastSave(const LibraryFile& saved);
     void Select(const LibraryFile& file);
@@ -52,11 +56,15 @@ public:
     void ToggleSuperBatch();
     // Waits for the message box that says so, and presses its button.
     void AwaitMessage(const std::string& text);
+    // Closes the window, and the program with it.
+    void Close();
 
 private:
     Widget Row(const std::string& list, const std::string& row) const;
+    // The text in the field of a list that can be typed into.
+    std::string FieldOf(const Widget& list) const;
 
-    std::string home_;
+    Installation installation_;
     Desk desk_;
     ShownWidgets widgets_;
     RunningProgram program_;

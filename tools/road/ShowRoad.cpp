@@ -19,7 +19,8 @@ constexpr Place kConsole{1130, 40, 500, 780};
 class Show {
 public:
     Show(const std::string& program, const std::string& home, std::string folder)
-        : folder_(std::move(folder)), console_("Ruby Console", folder_, kConsole), road_(program, home) {
+        : folder_(std::move(folder)), console_(folder_, RubyConsole("Ruby Console", kConsole)),
+          road_(OwnProgram(program, home)) {
         road_.TheDesk().PlaceWindow("Mirelle", kWindow);
     }
 
@@ -70,7 +71,7 @@ private:
         console_.AwaitAnswer("Sketchup.active_model.entities.first.back_material.nil?", "false");
         Shoot("7-colour-sent");
 
-        std::printf("The saved material:\n  %s\n", road_.PathOf(saved).c_str());
+        std::printf("The saved material:\n  %s\n", road_.FileOf(saved).c_str());
         Tell("The materials that the interpreter behind the console has now:",
              "Sketchup.active_model.materials.map { |m| [m.name, m.texture.filename, m.texture.size] }");
         Tell("and its faces, with their colours:",

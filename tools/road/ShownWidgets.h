@@ -1,8 +1,7 @@
-// What a program shows, as a screen reader sees it: every widget with its role, its name and its place. The
-// program is asked over the accessibility bus and knows nothing of who asks.
+// What a program shows, as a screen reader sees it: every widget with its role, its name and its place.
 #pragma once
 
-#include "tools/road/Desk.h"
+#include "tools/road/WidgetSource.h"
 
 #include <functional>
 #include <memory>
@@ -12,22 +11,10 @@
 
 namespace mirelle::road {
 
-// An object of the accessibility bus.
-struct Widget {
-    std::string object;
-    std::string role; // "push button", "list item" and so on
-    std::string name;
-    Place place;
-};
-
 class ShownWidgets {
 public:
-    // Of the program that names itself so. Throws where there is no accessibility bus. Programs that are
-    // started from now on take part in it.
-    explicit ShownWidgets(std::string program);
-    ~ShownWidgets();
-    ShownWidgets(const ShownWidgets&) = delete;
-    ShownWidgets& operator=(const ShownWidgets&) = delete;
+    // Of the program that names itself so.
+    ShownWidgets(std::string program, std::unique_ptr<WidgetSource> source);
 
     // The first widget on the screen, in the order of the window, for which `fits` holds.
     std::optional<Widget> Find(const std::function<bool(const Widget&)>& fits) const;
@@ -42,9 +29,8 @@ public:
     bool IsChecked(const Widget& box) const;
 
 private:
-    class Bus;
-    std::unique_ptr<Bus> bus_;
     std::string program_;
+    std::unique_ptr<WidgetSource> source_;
 };
 
 } // namespace mirelle::road

@@ -55,8 +55,10 @@ module Sketchup
       @name = name
     end
 
+    # A program for Windows under Wine sees this machine's files on drive Z.
     def texture=(path)
-      raise ArgumentError, "no such image: #{path}" unless File.file?(path)
+      here = path.start_with?("Z:\\") ? path[2..].tr("\\", "/") : path
+      raise ArgumentError, "no such image: #{path}" unless File.file?(here)
       @texture = Texture.new(path)
     end
   end

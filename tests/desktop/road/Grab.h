@@ -5,7 +5,7 @@
 
 namespace mirelle::test {
 
-// Writes it as a PNG file, 1000 by 700 pixels.
+// Writes it as a PNG or BMP file, by its name, 1000 by 700 pixels.
 void MakeGrab(const std::string& file);
 
 } // namespace mirelle::test

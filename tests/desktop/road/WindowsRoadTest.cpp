@@ -1,0 +1,76 @@
+// The whole road in the program for Windows, as its user has unpacked it, under Wine: what the window titled
+// "Ruby Console" received there is what it receives here, but for the paths.
+#include "tests/desktop/road/Grab.h"
+#include "tests/desktop/road/SavedFiles.h"
+#include "tests/desktop/road/Walk.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+#include <gmock/gmock.h>
+
+namespace mirelle::test {
+namespace {
+
+using road::Console;
+using road::ConsoleOf;
+using road::Road;
+using road::WindowsProgram;
+
+// MIRELLE_WINDOWS_TREE names the unpacked folder, MIRELLE_WINDOWS_PICTURES the one for pictures of the
+// screen, MIRELLE_WINDOWS_TOOLS the one with the programs that stand around, MIRELLE_WINE what runs programs
+// for Windows.
+std::string Told(const char* name) {
+    const char* value = std::getenv(name);
+    if (value == nullptr) throw std::runtime_error(std::string(name) + " is not set");
+    return value;
+}
+
+class WindowsRoad : public testing::Test {
+protected:
+    WindowsRoad() {
+        std::filesystem::copy(Told("MIRELLE_WINDOWS_TREE"), home_, std::filesystem::copy_options::recursive);
+    }
+
+    std::string Tool(const std::string& name) const {
+        return Told("MIRELLE_WINDOWS_TOOLS") + "/" + name + ".exe";
+    }
+    std::string Grab() const {
+        const std::string file = folder_ / "grab.bmp";
+        MakeGrab(file);
+        return file;
+    }
+    void Shoot(Road& road, const std::string& name) const {
+        road.TheDesk().TakePicture(Told("MIRELLE_WINDOWS_PICTURES") + "/" + name + ".png");
+    }
+
+    TemporaryFolder folder_;
+    std::string home_ = folder_.MakeFolder("Häuser, à côté [2]");
+    std::string wine_ = Told("MIRELLE_WINE");
+};
+
+TEST_F(WindowsRoad, LeavesWhatWasSentInTheModelLineByLine) {
+    const Console console(folder_.Path(),
+                          ConsoleOf({wine_, Tool("edit_console"), "Ruby Console", "60", "60", "500", "300"}));
+    Road road(WindowsProgram(wine_, Tool("widget_teller"), home_));
+    Walk walk(road, console);
+    WalkOrTell(road, [&] {
+        Shoot(road, "1-started");
+        walk.Crop(Grab());
+        Shoot(road, "2-cropped");
+        walk.SaveInEveryForm(Grab());
+        Shoot(road, "3-saved");
+        walk.SaveAndSend();
+        Shoot(road, "4-sent");
+        walk.SendFolderAndList();
+        Shoot(road, "5-list-sent");
+        walk.SendColour();
+        Shoot(road, "6-colour-sent");
+    });
+    EXPECT_EQ(console.Ask("Typed.lines"), walk.Lines());
+    EXPECT_EQ(console.Ask("Typed.errors"), "[]");
+}
+
+} // namespace
+} // namespace mirelle::test
