@@ -2,6 +2,7 @@
 
 #include "desktop/encoders/FileEncoders.h"
 #include "desktop/pictures/ImageFileLoader.h"
+#include "desktop/system/QtClipboard.h"
 #include "desktop/system/QtProcess.h"
 #include "desktop/system/QtViewer.h"
 #ifdef MIRELLE_X11
@@ -51,14 +52,15 @@ std::unique_ptr<Keyboard> MakeKeyboard() {
 
 RealDesktop::RealDesktop(const std::string& home)
     : files_(home, DumpFile()), loader_(std::make_unique<ImageFileLoader>(files_)),
-      encoders_(std::make_unique<FileEncoders>(files_)), process_(std::make_unique<QtProcess>()),
-      viewer_(std::make_unique<QtViewer>()), console_(MakeConsole()), keyboard_(MakeKeyboard()) {}
+      encoders_(std::make_unique<FileEncoders>(files_)), clipboard_(std::make_unique<QtClipboard>()),
+      process_(std::make_unique<QtProcess>()), viewer_(std::make_unique<QtViewer>()), console_(MakeConsole()),
+      keyboard_(MakeKeyboard()) {}
 
 RealDesktop::~RealDesktop() = default;
 
 Ports RealDesktop::ThePorts() {
-    return {clipboard_, dialogs,   files_,   *loader_, *encoders_, pump,
-            *keyboard_, *console_, *viewer_, screen,   *process_};
+    return {*clipboard_, dialogs,   files_,   *loader_, *encoders_, pump,
+            *keyboard_,  *console_, *viewer_, screen,   *process_};
 }
 
 } // namespace mirelle

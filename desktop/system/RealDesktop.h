@@ -2,7 +2,6 @@
 #pragma once
 
 #include "desktop/files/NativeFileSystem.h"
-#include "desktop/system/QtClipboard.h"
 #include "desktop/system/QtDialogs.h"
 #include "desktop/system/QtEventPump.h"
 #include "desktop/system/QtScreen.h"
@@ -29,7 +28,7 @@ private:
     NativeFileSystem files_;
     std::unique_ptr<PictureLoader> loader_;
     std::unique_ptr<ImageEncoders> encoders_;
-    QtClipboard clipboard_;
+    std::unique_ptr<Clipboard> clipboard_;
     std::unique_ptr<Process> process_;
     std::unique_ptr<SystemViewer> viewer_;
     std::unique_ptr<ConsoleShell> console_;

@@ -2,6 +2,7 @@
 #include "desktop/system/RealDesktop.h"
 
 #include "desktop/windows/GdiPlusEncoders.h"
+#include "desktop/windows/WindowsClipboard.h"
 #include "desktop/windows/WindowsConsole.h"
 #include "desktop/windows/WindowsKeyboard.h"
 #include "desktop/windows/WindowsPictures.h"
@@ -17,15 +18,15 @@ constexpr const char* kDumpFile = "c:\\komp.txt";
 
 RealDesktop::RealDesktop(const std::string& home)
     : files_(home, kDumpFile), loader_(std::make_unique<WindowsPictures>(files_)),
-      encoders_(std::make_unique<GdiPlusEncoders>()), process_(std::make_unique<WindowsProcess>()),
-      viewer_(std::make_unique<WindowsViewer>()), console_(std::make_unique<WindowsConsole>()),
-      keyboard_(std::make_unique<WindowsKeyboard>()) {}
+      encoders_(std::make_unique<GdiPlusEncoders>()), clipboard_(std::make_unique<WindowsClipboard>()),
+      process_(std::make_unique<WindowsProcess>()), viewer_(std::make_unique<WindowsViewer>()),
+      console_(std::make_unique<WindowsConsole>()), keyboard_(std::make_unique<WindowsKeyboard>()) {}
 
 RealDesktop::~RealDesktop() = default;
 
 Ports RealDesktop::ThePorts() {
-    return {clipboard_, dialogs,   files_,   *loader_, *encoders_, pump,
-            *keyboard_, *console_, *viewer_, screen,   *process_};
+    return {*clipboard_, dialogs,   files_,   *loader_, *encoders_, pump,
+            *keyboard_,  *console_, *viewer_, screen,   *process_};
 }
 
 } // namespace mirelle

@@ -28,6 +28,24 @@ bool IsMissing(HRESULT result) {
     return result == E_NOTIMPL || result == DISP_E_UNKNOWNNAME || result == DISP_E_MEMBERNOTFOUND;
 }
 
+// What an object tells of a method that failed.
+struct Failure : EXCEPINFO {
+    Failure() : EXCEPINFO{} {}
+    ~Failure() {
+        SysFreeString(bstrSource);
+        SysFreeString(bstrDescription);
+        SysFreeString(bstrHelpFile);
+    }
+    Failure(const Failure&) = delete;
+    Failure& operator=(const Failure&) = delete;
+
+    // The method's own result.
+    HRESULT Result() {
+        if (pfnDeferredFillIn != nullptr) pfnDeferredFillIn(this);
+        return scode;
+    }
+};
+
 } // namespace
 
 std::unique_ptr<ScriptShell> ScriptShell::Create() {
@@ -52,11 +70,12 @@ bool ScriptShell::SendKeys(const std::string& text) {
     argument.vt = VT_BSTR;
     argument.bstrVal = keys.Get();
     DISPPARAMS arguments{&argument, nullptr, 1, 0};
+    Failure failure;
     const HRESULT result = object_->Invoke(method, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &arguments,
-                                           nullptr, nullptr, nullptr);
-    if (IsMissing(result)) return false;
-    if (FAILED(result)) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
-    return true;
+                                           nullptr, &failure, nullptr);
+    if (SUCCEEDED(result)) return true;
+    if (IsMissing(result == DISP_E_EXCEPTION ? failure.Result() : result)) return false;
+    throw RunTimeError(ErrorNumber::InvalidProcedureCall);
 }
 
 } // namespace mirelle::windows

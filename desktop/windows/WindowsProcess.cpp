@@ -10,8 +10,8 @@
 namespace mirelle {
 
 void WindowsProcess::End() {
-    // Windows has only been told what could be had; now it takes it. Where another program has copied
-    // something since then, nothing happens.
+    // A text that a field copied Windows has only been told of; now it takes it. Where something has been
+    // copied since then, nothing happens.
     OleFlushClipboard();
     std::fflush(nullptr);
     std::_Exit(EXIT_SUCCESS);

@@ -7,7 +7,7 @@ namespace mirelle {
 
 class WindowsProcess : public Process {
 public:
-    // Nothing is saved and no destructor runs. What the program put on the clipboard stays there.
+    // Nothing is saved and no destructor runs. What was copied out of a text field stays on the clipboard.
     [[noreturn]] void End() override;
 };
 

@@ -38,6 +38,9 @@ TEST(ScriptShell, TellsThatTheObjectCannotType) {
     for (const HRESULT missing : {E_NOTIMPL, DISP_E_UNKNOWNNAME, DISP_E_MEMBERNOTFOUND}) {
         system.runResult = missing;
         EXPECT_FALSE(shell->SendKeys("a")) << missing;
+        system.runResult = DISP_E_EXCEPTION;
+        system.exception = missing;
+        EXPECT_FALSE(shell->SendKeys("a")) << missing;
     }
     system.runResult = S_OK;
     system.nameResult = DISP_E_UNKNOWNNAME;
@@ -47,7 +50,11 @@ TEST(ScriptShell, TellsThatTheObjectCannotType) {
 TEST(ScriptShell, AnyOtherFailureRaisesError5) {
     ScriptedShell system;
     const std::unique_ptr<ScriptShell> shell = ScriptShell::Create();
+    system.runResult = E_ACCESSDENIED;
+    EXPECT_EQ(ErrorOf([&] { shell->SendKeys("a"); }), ErrorNumber::InvalidProcedureCall);
     system.runResult = DISP_E_EXCEPTION;
+    EXPECT_EQ(ErrorOf([&] { shell->SendKeys("a"); }), ErrorNumber::InvalidProcedureCall);
+    system.exception = E_ACCESSDENIED;
     EXPECT_EQ(ErrorOf([&] { shell->SendKeys("a"); }), ErrorNumber::InvalidProcedureCall);
 }
 

@@ -49,12 +49,17 @@ public:
         return shell_.nameResult;
     }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID method, REFIID, LCID, WORD how, DISPPARAMS* arguments, VARIANT*,
-                                     EXCEPINFO*, UINT*) override {
+                                     EXCEPINFO* exception, UINT*) override {
         if (method != kSendKeys || how != DISPATCH_METHOD) return DISP_E_MEMBERNOTFOUND;
         std::string call = "SendKeys(";
         for (UINT i = 0; i < arguments->cArgs; ++i)
             call += (i == 0 ? "" : ", ") + Told(arguments->rgvarg[i]);
         shell_.calls.push_back(call + ")");
+        if (shell_.runResult == DISP_E_EXCEPTION && exception != nullptr) {
+            *exception = {};
+            exception->scode = shell_.exception;
+            exception->bstrDescription = SysAllocString(L"It failed");
+        }
         return shell_.runResult;
     }
 

@@ -20,6 +20,8 @@ public:
     // What asking for a method by its name gives, and what running it does.
     HRESULT nameResult = S_OK;
     HRESULT runResult = S_OK;
+    // What an exception tells of, where that is the result.
+    HRESULT exception = S_OK;
     // One entry for each run: how it was called, as in "SendKeys(text)".
     std::vector<std::string> calls;
     // How many of its objects are in use.

@@ -8,6 +8,8 @@
 #include "tests/desktop/windows/ConsoleProcess.h"
 #include "tests/support/ErrorOf.h"
 
+#include <objbase.h>
+
 #include <gmock/gmock.h>
 
 namespace mirelle::test {
@@ -47,6 +49,16 @@ TEST_F(Typing, EveryPrintableCharacterArrives) {
         text += each;
     Type(Braced(text));
     EXPECT_TRUE(Await([&] { return console.Text() == text; })) << console.Text();
+}
+
+// Outside of the program no thread takes part in COM, and the shell object can't be had.
+TEST_F(Typing, ByTheSystemsOwnShellObjectOrWithoutItTheTextArrives) {
+    const ConsoleProcess console("Ruby Console");
+    ASSERT_TRUE(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)));
+    Type("model.entities.count\rwall {+} brick\r");
+    const bool arrived = Await([&] { return console.Text() == "model.entities.count\nwall + brick\n"; });
+    CoUninitialize();
+    EXPECT_TRUE(arrived) << console.Text();
 }
 
 TEST_F(Typing, ALongTextArrivesInOrder) {

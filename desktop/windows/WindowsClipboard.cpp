@@ -1,0 +1,117 @@
+#include "desktop/windows/WindowsClipboard.h"
+
+#include "codecs/BmpReader.h"
+#include "codecs/BmpWriter.h"
+#include "desktop/windows/System.h"
+#include "desktop/windows/Wide.h"
+#include "forms/RunTimeError.h"
+
+#include <chrono>
+#include <cstring>
+#include <thread>
+#include <vector>
+
+namespace mirelle {
+namespace {
+
+constexpr std::chrono::milliseconds kLongestWait{1000};
+constexpr std::chrono::milliseconds kLook{5};
+constexpr std::size_t kFileHeader = 14; // of a bitmap's file: the clipboard has what follows
+
+// The clipboard, open. Other programs have it open for a moment now and then, above all behind a change.
+class OpenedClipboard {
+public:
+    explicit OpenedClipboard(HWND owner) {
+        const auto deadline = std::chrono::steady_clock::now() + kLongestWait;
+        while (!(isOpen_ = OpenClipboard(owner) != 0) && std::chrono::steady_clock::now() < deadline)
+            std::this_thread::sleep_for(kLook);
+    }
+    ~OpenedClipboard() {
+        if (isOpen_) CloseClipboard();
+    }
+    OpenedClipboard(const OpenedClipboard&) = delete;
+    OpenedClipboard& operator=(const OpenedClipboard&) = delete;
+
+    bool IsOpen() const { return isOpen_; }
+
+private:
+    bool isOpen_ = false;
+};
+
+std::vector<std::uint8_t> BytesOf(HANDLE handle) {
+    std::vector<std::uint8_t> bytes;
+    if (const void* memory = GlobalLock(handle)) {
+        const auto* begin = static_cast<const std::uint8_t*>(memory);
+        ResumeNext([&] { bytes.assign(begin, begin + GlobalSize(handle)); });
+        GlobalUnlock(handle);
+    }
+    return bytes;
+}
+
+HANDLE MemoryWith(std::span<const std::uint8_t> bytes) {
+    const HGLOBAL handle = GlobalAlloc(GMEM_MOVEABLE, bytes.size());
+    if (handle == nullptr) throw RunTimeError(ErrorNumber::OutOfMemory);
+    std::memcpy(GlobalLock(handle), bytes.data(), bytes.size());
+    GlobalUnlock(handle);
+    return handle;
+}
+
+} // namespace
+
+WindowsClipboard::WindowsClipboard()
+    : owner_(CreateWindowW(L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr)) {}
+
+WindowsClipboard::~WindowsClipboard() {
+    DestroyWindow(static_cast<HWND>(owner_));
+}
+
+// Windows makes this format of every other form of a bitmap.
+bool WindowsClipboard::HasBitmap() const {
+    if (fetched_ && fetched_->state == GetClipboardSequenceNumber()) return !fetched_->picture.IsEmpty();
+    return IsClipboardFormatAvailable(CF_DIB) != 0;
+}
+
+Picture WindowsClipboard::GetData() {
+    const unsigned state = GetClipboardSequenceNumber();
+    if (fetched_ && fetched_->state == state) return fetched_->picture;
+    fetched_ = {state, Picture()};
+    std::vector<std::uint8_t> bytes;
+    {
+        const OpenedClipboard clipboard(static_cast<HWND>(owner_));
+        if (!clipboard.IsOpen()) {
+            fetched_.reset();
+            return Picture();
+        }
+        if (const HANDLE handle = GetClipboardData(CF_DIB)) bytes = BytesOf(handle);
+    }
+    ResumeNext([&] { fetched_->picture = Picture(ReadDib(bytes)); });
+    return fetched_->picture;
+}
+
+void WindowsClipboard::Clear() {
+    Put(0, {});
+}
+
+void WindowsClipboard::SetData(const Picture& bitmap) {
+    if (bitmap.IsEmpty()) return Clear();
+    const std::vector<std::uint8_t> file = BmpFile(bitmap.Pixels());
+    Put(CF_DIB, std::span(file).subspan(kFileHeader));
+    if (IsClipboardFormatAvailable(CF_DIB) != 0) fetched_ = {GetClipboardSequenceNumber(), bitmap};
+}
+
+void WindowsClipboard::SetText(const std::string& text) {
+    const std::wstring wide = windows::Wide(text);
+    const auto* bytes = reinterpret_cast<const std::uint8_t*>(wide.c_str());
+    Put(CF_UNICODETEXT, {bytes, (wide.size() + 1) * sizeof(wchar_t)}); // with its end
+}
+
+void WindowsClipboard::Put(unsigned format, std::span<const std::uint8_t> bytes) {
+    fetched_.reset();
+    const HANDLE memory = bytes.empty() ? nullptr : MemoryWith(bytes);
+    const OpenedClipboard clipboard(static_cast<HWND>(owner_));
+    const bool taken = clipboard.IsOpen() && EmptyClipboard() != 0 &&
+                       (memory == nullptr || SetClipboardData(format, memory) != nullptr);
+    if (!taken && memory != nullptr) GlobalFree(memory);
+}
+
+} // namespace mirelle
