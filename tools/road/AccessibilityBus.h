@@ -18,6 +18,7 @@ public:
     std::vector<Widget> Children(const std::string& object) override;
     std::string Text(const std::string& object) override;
     bool IsChecked(const std::string& object) override;
+    bool SeesCopiedPicture() override { return true; } // they ask its owner
 
 private:
     class Calls;

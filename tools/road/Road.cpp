@@ -85,6 +85,7 @@ void Road::EnterFolder(const std::string& folder) {
 
 void Road::Paste(const std::string& pictureFile) {
     PutOnClipboard(pictureFile);
+    widgets_.AwaitCopiedPicture();
     Press("Paste from clipboard");
     const QImage picture(QString::fromStdString(pictureFile));
     const Place canvas = widgets_.Await("canvas", "Sampling Canvas").place;
@@ -158,9 +159,13 @@ void Road::LineUp(const LibraryFile& file) {
 
 std::string Road::SampleColour() {
     Press("Show Pixel Sampler frame");
-    desk_.Click(widgets_.Await("graphic", kChart).place);
     const Widget slot = widgets_.Await("text", kSlot);
-    Await("the sampled colour", [&] { return !widgets_.TextOf(slot).empty(); });
+    // While the frame finds its place, the chart lies somewhere else for a moment.
+    int looks = 0;
+    Await("the sampled colour", [&] {
+        if (looks++ % kPatientLooks == 0) desk_.Click(widgets_.Await("graphic", kChart).place);
+        return !widgets_.TextOf(slot).empty();
+    });
     return widgets_.TextOf(slot);
 }
 

@@ -44,4 +44,8 @@ bool ShownWidgets::IsChecked(const Widget& box) const {
     return source_->IsChecked(box.object);
 }
 
+void ShownWidgets::AwaitCopiedPicture() const {
+    road::Await("the copied picture", [&] { return source_->SeesCopiedPicture(); });
+}
+
 } // namespace mirelle::road

@@ -27,6 +27,8 @@ public:
     // The whole text of a text field.
     std::string TextOf(const Widget& field) const;
     bool IsChecked(const Widget& box) const;
+    // Waits until the program can paste what has been put on the clipboard.
+    void AwaitCopiedPicture() const;
 
 private:
     std::string program_;

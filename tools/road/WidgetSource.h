@@ -27,6 +27,8 @@ public:
     // The whole text of a text field.
     virtual std::string Text(const std::string& object) = 0;
     virtual bool IsChecked(const std::string& object) = 0;
+    // Whether programs of that system see the picture that another one has put on the clipboard.
+    virtual bool SeesCopiedPicture() = 0;
 };
 
 } // namespace mirelle::road

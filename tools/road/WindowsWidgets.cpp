@@ -88,7 +88,15 @@ std::string WindowsWidgets::Text(const std::string& object) {
 }
 
 bool WindowsWidgets::IsChecked(const std::string& object) {
-    const std::vector<std::string> answer = Ask("checked " + object);
+    return Holds("checked " + object);
+}
+
+bool WindowsWidgets::SeesCopiedPicture() {
+    return Holds("clipboard picture");
+}
+
+bool WindowsWidgets::Holds(const std::string& question) {
+    const std::vector<std::string> answer = Ask(question);
     return !answer.empty() && answer.front() == "1";
 }
 

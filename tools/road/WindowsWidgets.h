@@ -17,10 +17,12 @@ public:
     std::vector<Widget> Children(const std::string& object) override;
     std::string Text(const std::string& object) override;
     bool IsChecked(const std::string& object) override;
+    bool SeesCopiedPicture() override;
 
 private:
     // The lines of the answer.
     std::vector<std::string> Ask(const std::string& question);
+    bool Holds(const std::string& question);
 
     std::unique_ptr<QProcess> teller_;
 };

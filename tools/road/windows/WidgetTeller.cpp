@@ -1,14 +1,17 @@
 // widget_teller: tells what programs for Windows show. Questions come as lines on standard input:
 //
-//   program NAME      the object of the program that has a window of this title
-//   children OBJECT   a line for each widget in it: object, kind, left, top, width, height, name, parted by
-//   tabs text OBJECT       the text of a field checked OBJECT    1 or 0
+//   program NAME      the object of the program that has, or had, a window of this title
+//   children OBJECT   a line for each widget in it, parted by tabs: object, kind, place, name
+//   text OBJECT       the text of a field
+//   checked OBJECT    1 or 0
+//   clipboard picture 1 where there is a picture on the clipboard, or 0
 //
-// Each line of an answer begins with "+"; an empty line ends it. It ends with its standard input.
+// Each line of an answer begins with "+"; an empty line ends it. The teller ends with its standard input.
+// Widgets are told as they stood when their program was last asked for; texts and checks as they stand now.
+#include "desktop/windows/System.h"
 #include "desktop/windows/Wide.h"
-#include "tools/road/windows/Automation.h"
+#include "tools/road/windows/WindowText.h"
 
-#include <algorithm>
 #include <iostream>
 #include <map>
 #include <string>
@@ -16,10 +19,8 @@
 namespace mirelle::road {
 namespace {
 
-using windows::Wide;
-
-// So many elements are remembered. Who asks goes through a window from the top again and again.
-constexpr std::size_t kRemembered = 4000;
+constexpr LPARAM kAutomationRoot = -25; // UiaRootObjectId
+constexpr UINT kLongestAnswerMs = 10'000;
 constexpr const char* kProgram = "program";
 
 BOOL CALLBACK AddIfShown(HWND window, LPARAM list) {
@@ -39,67 +40,91 @@ std::vector<HWND> ShownWindows(DWORD process) {
     return windows;
 }
 
-// What can't be told in a line.
-std::string Plain(std::string text) {
-    std::ranges::replace_if(
-        text, [](char each) { return each >= 0 && each < ' '; }, ' ');
-    return text;
-}
+// The memory that answers come to.
+class Block {
+public:
+    Block() {
+        handle_ = CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, DWORD{kBlockSize},
+                                     BlockName(GetCurrentProcessId()).c_str());
+        memory_ = static_cast<const char*>(MapViewOfFile(handle_, FILE_MAP_READ, 0, 0, kBlockSize));
+    }
+
+    std::vector<Told> Widgets(HWND window) const {
+        DWORD_PTR length = 0;
+        const LRESULT done = SendMessageTimeoutW(window, WM_GETOBJECT, GetCurrentProcessId(), kAutomationRoot,
+                                                 SMTO_NORMAL, kLongestAnswerMs, &length);
+        if (done == 0 || memory_ == nullptr || length > kBlockSize) return {};
+        return ReadLines(std::string(memory_, length));
+    }
+
+private:
+    HANDLE handle_ = nullptr;
+    const char* memory_ = nullptr;
+};
 
 class Teller {
 public:
     std::vector<std::string> Answer(const std::string& what, const std::string& about) {
         if (what == "program") return Program(about);
         if (what == "children") return Children(about);
-        const auto element = elements_.find(about);
-        if (element == elements_.end()) return {};
-        if (what == "text") return {Plain(element->second.Value())};
-        return {element->second.IsChecked() ? "1" : "0"};
+        if (what == "clipboard") return {IsClipboardFormatAvailable(CF_DIB) != 0 ? "1" : "0"};
+        const Told widget = Now(about);
+        if (what == "text") return {widget.value};
+        return {widget.checked ? "1" : "0"};
     }
 
 private:
     std::vector<std::string> Program(const std::string& name) {
-        const HWND window = FindWindowW(nullptr, Wide(name).c_str());
-        if (window == nullptr) return {};
-        DWORD process = 0;
-        GetWindowThreadProcessId(window, &process);
-        return {kProgram + std::to_string(process)};
+        children_.clear();
+        // Windows change their titles as they please.
+        if (const HWND window = FindWindowW(nullptr, windows::Wide(name).c_str()))
+            GetWindowThreadProcessId(window, &process_);
+        const std::vector<HWND> windows = ShownWindows(process_);
+        if (windows.empty()) return {};
+        for (const HWND window : windows)
+            Note(window);
+        return {kProgram};
     }
 
-    std::vector<std::string> Children(const std::string& object) {
-        std::vector<Element> children;
-        if (object.starts_with(kProgram)) {
-            for (const HWND window : ShownWindows(std::stoul(object.substr(std::string(kProgram).size()))))
-                if (std::optional<Element> element = Element::OfWindow(window)) children.push_back(*element);
-        } else if (const auto element = elements_.find(object); element != elements_.end()) {
-            children = element->second.Children();
+    // The number of the window and that of the widget.
+    static std::string Object(HWND window, const Told& widget) {
+        return std::to_string(reinterpret_cast<std::uintptr_t>(window)) + '.' + std::to_string(widget.number);
+    }
+
+    void Note(HWND window) {
+        std::vector<std::string> around{kProgram}; // the objects that a widget lies in, outermost first
+        for (const Told& widget : block_.Widgets(window)) {
+            const std::string object = Object(window, widget);
+            around.resize(static_cast<std::size_t>(widget.depth) + 1);
+            std::string line = object + '\t' + std::to_string(widget.kind);
+            for (const int number : {widget.left, widget.top, widget.width, widget.height})
+                line += '\t' + std::to_string(number);
+            children_[around.back()].push_back(line + '\t' + widget.name);
+            around.push_back(object);
         }
-        std::vector<std::string> lines;
-        for (const Element& child : children)
-            lines.push_back(Line(child));
-        return lines;
     }
 
-    std::string Line(const Element& element) {
-        const std::string object = std::to_string(++last_);
-        elements_.emplace(object, element);
-        if (last_ > kRemembered) elements_.erase(std::to_string(last_ - kRemembered));
-        const RECT place = element.Place();
-        std::string line = object + '\t' + std::to_string(element.Kind());
-        for (const LONG number : {place.left, place.top, place.right - place.left, place.bottom - place.top})
-            line += '\t' + std::to_string(number);
-        return line + '\t' + Plain(element.Name());
+    std::vector<std::string> Children(const std::string& object) const {
+        const auto found = children_.find(object);
+        return found == children_.end() ? std::vector<std::string>() : found->second;
     }
 
-    std::map<std::string, Element> elements_;
-    std::size_t last_ = 0;
+    Told Now(const std::string& object) const {
+        const auto window = reinterpret_cast<HWND>(static_cast<std::uintptr_t>(std::stoull(object)));
+        for (const Told& widget : block_.Widgets(window))
+            if (Object(window, widget) == object) return widget;
+        return {};
+    }
+
+    Block block_;
+    DWORD process_ = 0; // of the program that was asked for
+    std::map<std::string, std::vector<std::string>> children_;
 };
 
 } // namespace
 } // namespace mirelle::road
 
 int main() {
-    CoInitializeEx(nullptr, COINIT_MULTITHREADED);
     mirelle::road::Teller teller;
     for (std::string line; std::getline(std::cin, line);) {
         if (line.ends_with('\r')) line.pop_back();
