@@ -81,9 +81,10 @@ void Table::PrintTitle(const std::string& title) const {
     std::printf("\n%s\n", title.c_str());
 }
 
-void Table::Run(const Measure& measure, double seconds) {
-    const Contest contest = measure.prepare();
-    const Times times = contest.ours ? RunRounds(contest, measure.cores, seconds) : Times{};
+void Table::Run(const Measure& measure) {
+    Contest contest = measure.prepare();
+    if (manner_.alone) contest.peers = {{"nothing", 0, [] { return 1.0; }}};
+    const Times times = contest.ours ? RunRounds(contest, measure.cores, manner_.seconds) : Times{};
     for (std::size_t i = 0; i < contest.peers.size(); ++i) {
         const Peer& peer = contest.peers[i];
         const std::string aim = peer.aim > 0 ? RatioText(peer.aim) : "";

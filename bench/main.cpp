@@ -1,9 +1,9 @@
-// mirelle_bench [--list] [--seconds S] [FILTER]: how fast the program is, in one table, beside what people
-// would otherwise use and beside what the machine allows.
+// mirelle_bench [--list] [--alone] [--seconds S] [FILTER]: how fast the program is, in one table, beside what
+// people would otherwise use and beside what the machine allows.
 //
 // FILTER keeps the rows whose group or name holds that text, without regard to case. --list names the
 // measures. --seconds is how long the rounds of a measure go on, at least a few rounds; 1 unless told
-// otherwise.
+// otherwise. --alone runs our side without the peers, for a profiler.
 //
 // The exit status tells whether every result was right. How fast it was changes nothing about that.
 #include "bench/Rows.h"
@@ -24,7 +24,7 @@ using namespace mirelle::bench;
 
 struct Wishes {
     bool list = false;
-    double seconds = 1;
+    Manner manner;
     std::string filter;
 };
 
@@ -39,7 +39,9 @@ Wishes WishesOf(int count, char** arguments) {
         if (std::strcmp(arguments[i], "--list") == 0)
             wishes.list = true;
         else if (std::strcmp(arguments[i], "--seconds") == 0 && i + 1 < count)
-            wishes.seconds = std::stod(arguments[++i]);
+            wishes.manner.seconds = std::stod(arguments[++i]);
+        else if (std::strcmp(arguments[i], "--alone") == 0)
+            wishes.manner.alone = true;
         else
             wishes.filter = Lower(arguments[i]);
     }
@@ -78,12 +80,12 @@ int main(int count, char** arguments) {
     QApplication application(count, arguments);
     mirelle::look::ApplyLook(application);
 
-    Table table;
+    Table table(wishes.manner);
     table.PrintHead();
     for (const Group& group : groups) {
         table.PrintTitle(group.title);
         for (const Measure& measure : group.measures)
-            table.Run(measure, wishes.seconds);
+            table.Run(measure);
     }
     table.PrintSum();
     return table.AllHold() ? 0 : 1;

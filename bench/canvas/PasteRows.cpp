@@ -64,7 +64,7 @@ Contest Prepare() {
 } // namespace
 
 Group PasteRows() {
-    return {"Paste", {{"from clipboard data to the painted canvas", Prepare}}};
+    return {"Paste", {{"from clipboard data to the painted canvas", Prepare, Cores::All}}};
 }
 
 } // namespace mirelle::bench

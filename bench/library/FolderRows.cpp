@@ -82,11 +82,12 @@ Contest ClickRow() {
 } // namespace
 
 Group FolderRows() {
-    return {"A folder of 100,000 files",
-            {{"opening it", [] { return OpenFolder({}, kTimesTheReading); }},
-             {"opening it, with the counter", [] { return OpenFolder({.count = kChecked}, 0); }},
-             {"opening it, gathering all names", [] { return OpenFolder({.append = kChecked}, 0); }},
-             {"a click on a file of 64 x 64 in it", ClickRow}}};
+    return {
+        "A folder of 100,000 files",
+        {{"opening it", [] { return OpenFolder({}, kTimesTheReading); }, Cores::All},
+         {"opening it, with the counter", [] { return OpenFolder({.count = kChecked}, 0); }, Cores::All},
+         {"opening it, gathering all names", [] { return OpenFolder({.append = kChecked}, 0); }, Cores::All},
+         {"a click on a file of 64 x 64 in it", ClickRow, Cores::All}}};
 }
 
 } // namespace mirelle::bench

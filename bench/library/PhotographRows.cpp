@@ -61,8 +61,8 @@ Contest Prepare(bool gradientShown) {
 
 Group PhotographRows() {
     return {"A click on a JPEG file of 24 megapixels",
-            {{"up to the painted canvas", [] { return Prepare(false); }},
-             {"the same with the gradient's panel open", [] { return Prepare(true); }}}};
+            {{"up to the painted canvas", [] { return Prepare(false); }, Cores::All},
+             {"the same with the gradient's panel open", [] { return Prepare(true); }, Cores::All}}};
 }
 
 } // namespace mirelle::bench
