@@ -68,6 +68,8 @@ public:
 
     // The persistent image, of the size of the client area.
     mirelle::Picture Image() const { return surface_.Image(); }
+    // What a window shows over the form's background (see Surface::Seen).
+    mirelle::Picture Seen() const { return surface_.Seen(); }
     int ClientWidth() const { return surface_.Width(); }
     int ClientHeight() const { return surface_.Height(); }
     float ScaleWidth() const;

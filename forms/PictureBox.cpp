@@ -94,6 +94,11 @@ Bitmap& PictureBox::Paint() {
     return surface_.Paint();
 }
 
+void PictureBox::PaintRows(const Surface::PaintRow& paint) {
+    TellWatchers();
+    surface_.PaintRows(paint);
+}
+
 ImageControl::ImageControl(Form& form, std::string name) : Control(form, std::move(name)) {}
 
 void ImageControl::AssignPicture(mirelle::Picture picture) {

@@ -72,6 +72,8 @@ public:
     void StretchPicture(const mirelle::Picture& source);
     // Paints a picture from the top-left corner on; one of the box's own size is shared, not copied.
     void ShowImage(const mirelle::Picture& image);
+    // Paints the image row after row from the top (see Surface::PaintRows).
+    void PaintRows(const Surface::PaintRow& paint);
     // The image to paint in, pixel by pixel.
     Bitmap& Paint();
 

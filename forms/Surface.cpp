@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 namespace mirelle {
 namespace {
@@ -24,6 +25,11 @@ Clipped Clip(int length, std::int64_t from, int sourceLength, std::int64_t to, i
     return {static_cast<int>(skip), static_cast<int>(end - skip)};
 }
 
+// In one go: of std::ranges::copy from constant pixels GCC 12 makes a step for each.
+void CopyRow(std::span<const Pixel> from, std::span<Pixel> to) {
+    std::copy(from.begin(), from.end(), to.begin());
+}
+
 void CopyRect(const Bitmap& source, PixelArea from, Bitmap& target, int left, int top) {
     const Clipped across = Clip(from.width, from.x, source.Width(), left, target.Width());
     const Clipped down = Clip(from.height, from.y, source.Height(), top, target.Height());
@@ -32,7 +38,7 @@ void CopyRect(const Bitmap& source, PixelArea from, Bitmap& target, int left, in
         const auto row = source.Row(from.y + y)
                              .subspan(static_cast<std::size_t>(from.x + across.skip),
                                       static_cast<std::size_t>(across.length));
-        std::ranges::copy(row, target.Row(top + y).begin() + (left + across.skip));
+        CopyRow(row, target.Row(top + y).subspan(static_cast<std::size_t>(left + across.skip)));
     }
 }
 
@@ -90,6 +96,17 @@ Bitmap& Surface::Paint() {
     return *image_;
 }
 
+void Surface::PaintRows(const PaintRow& paint) {
+    const bool inPlace = image_ && image_.use_count() == 1;
+    const auto painted = inPlace ? image_ : std::make_shared<Bitmap>(Bitmap::Unwritten(width_, height_));
+    for (int y = 0; y < height_; ++y) {
+        const std::span<Pixel> row = painted->Row(y);
+        paint(y, image_ ? std::as_const(*image_).Row(y) : ComposedRow(y, row), row);
+    }
+    image_ = painted;
+    painted_ = true;
+}
+
 void Surface::Show(const Picture& image) {
     if (image.Width() == width_ && image.Height() == height_ && !image.IsEmpty()) {
         image_ = image.bitmap_;
@@ -122,10 +139,22 @@ void Surface::Stretch(const Picture& picture) {
 }
 
 std::shared_ptr<Bitmap> Surface::Compose() const {
-    auto composed = std::make_shared<Bitmap>(width_, height_, PixelOf(background_));
-    const Bitmap& assigned = picture_.Pixels();
-    CopyRect(assigned, WholeOf(assigned), *composed, 0, 0);
+    auto composed = std::make_shared<Bitmap>(Bitmap::Unwritten(width_, height_));
+    for (int y = 0; y < height_; ++y) {
+        const std::span<Pixel> row = composed->Row(y);
+        const std::span<const Pixel> shown = ComposedRow(y, row);
+        if (shown.data() != row.data()) CopyRow(shown, row);
+    }
     return composed;
+}
+
+std::span<const Pixel> Surface::ComposedRow(int y, std::span<Pixel> row) const {
+    const Bitmap& assigned = picture_.Pixels();
+    const std::span<const Pixel> shown = y < assigned.Height() ? assigned.Row(y) : std::span<const Pixel>();
+    if (shown.size() >= row.size()) return shown.first(row.size());
+    CopyRow(shown, row);
+    std::ranges::fill(row.subspan(shown.size()), PixelOf(background_));
+    return row;
 }
 
 } // namespace mirelle

@@ -9,7 +9,9 @@
 #include "forms/Picture.h"
 #include "forms/PixelArea.h"
 
+#include <functional>
 #include <memory>
+#include <span>
 
 namespace mirelle {
 
@@ -33,8 +35,16 @@ public:
 
     // The persistent image, sharing its pixels.
     Picture Image() const;
+    // What is to be seen, as long as the background is seen wherever the picture ends: the image, but where
+    // nothing was painted the assigned picture itself, for which no memory is made.
+    Picture Seen() const { return image_ ? Picture(image_) : picture_; }
     // The persistent image to paint in.
     Bitmap& Paint();
+    // Paints row after row from the top: each is told what the row was and writes all of it. The two may be
+    // the same memory; where they are not, an image that has to be made first is made as it is painted, and a
+    // large one goes through the memory once.
+    using PaintRow = std::function<void(int y, std::span<const Pixel> was, std::span<Pixel> row)>;
+    void PaintRows(const PaintRow& paint);
     // The colour at a pixel of the image, kOffPicture outside, however far. Places between pixels count to
     // the nearest one, ties to the even one.
     Color Point(double x, double y) const;
@@ -48,6 +58,9 @@ public:
 
 private:
     std::shared_ptr<Bitmap> Compose() const;
+    // What the image has in row y as long as nothing is painted: the picture's own row, or else one that is
+    // written into the memory given.
+    std::span<const Pixel> ComposedRow(int y, std::span<Pixel> row) const;
 
     int width_ = 0;
     int height_ = 0;

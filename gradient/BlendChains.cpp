@@ -53,51 +53,66 @@ inline std::uint8_t Moved(std::uint8_t was, std::uint8_t source, std::uint8_t di
     return was > source ? above : below;
 }
 
+// Blocks are moved into memory of their own, which vector code wants to be apart from what it reads.
+
 // A block through its chains; the factors of link k begin at factors[k * stride].
 MIRELLE_VERSIONS
-void BlendBlock(std::uint8_t* to, const std::uint8_t* from, const std::int16_t* factors, std::size_t stride,
-                std::size_t links) {
+void BlendBlock(std::uint8_t* moved, const std::uint8_t* was, const std::uint8_t* from,
+                const std::int16_t* factors, std::size_t stride, std::size_t links) {
     std::array<std::int16_t, kBlock> distances;
     for (std::size_t i = 0; i < kBlock; ++i)
-        distances[i] = Distance(to[i], from[i]);
+        distances[i] = Distance(was[i], from[i]);
     for (std::size_t link = 0; link < links; ++link) {
         const std::int16_t* here = factors + link * stride;
         for (std::size_t i = 0; i < kBlock; ++i)
             distances[i] = static_cast<std::int16_t>(distances[i] - Step(distances[i], here[i]));
     }
     for (std::size_t i = 0; i < kBlock; ++i)
-        to[i] = Moved(to[i], from[i], static_cast<std::uint8_t>(distances[i]));
+        moved[i] = Moved(was[i], from[i], static_cast<std::uint8_t>(distances[i]));
 }
 
 // The same with one chain for all bytes.
 MIRELLE_VERSIONS
-void BlendBlockAlike(std::uint8_t* to, const std::uint8_t* from, const std::int16_t* factors,
-                     std::size_t links) {
+void BlendBlockAlike(std::uint8_t* moved, const std::uint8_t* was, const std::uint8_t* from,
+                     const std::int16_t* factors, std::size_t links) {
     std::array<std::int16_t, kBlock> distances;
     for (std::size_t i = 0; i < kBlock; ++i)
-        distances[i] = Distance(to[i], from[i]);
+        distances[i] = Distance(was[i], from[i]);
     for (std::size_t link = 0; link < links; ++link) {
         const std::int16_t factor = factors[link];
         for (std::size_t i = 0; i < kBlock; ++i)
             distances[i] = static_cast<std::int16_t>(distances[i] - Step(distances[i], factor));
     }
     for (std::size_t i = 0; i < kBlock; ++i)
-        to[i] = Moved(to[i], from[i], static_cast<std::uint8_t>(distances[i]));
+        moved[i] = Moved(was[i], from[i], static_cast<std::uint8_t>(distances[i]));
 }
 
-// Runs block(to, from, at) over all bytes; what does not fill the last block is done in a copy.
-template <class Block>
-void EachBlock(std::uint8_t* to, const std::uint8_t* from, std::size_t bytes, const Block& block) {
+MIRELLE_VERSIONS
+void LimitBlock(std::uint8_t* moved, const std::uint8_t* was, const std::uint8_t* from,
+                const std::uint8_t* limits) {
+    for (std::size_t i = 0; i < kBlock; ++i) {
+        const std::uint8_t distance = Distance(was[i], from[i]);
+        moved[i] = Moved(was[i], from[i], std::min(distance, limits[i]));
+    }
+}
+
+// Runs work(moved, was, from, at) over all blocks of a run, `at` the first of the run's bytes; what does not
+// fill the last one is done in a copy.
+template <class Work>
+void EachBlock(const BlendRun& run, const Work& work) {
+    Bytes moved;
     std::size_t at = 0;
-    for (; at + kBlock <= bytes; at += kBlock)
-        block(to + at, from + at, at);
-    if (at == bytes) return;
-    Bytes lastTo{};
+    for (; at + kBlock <= run.bytes; at += kBlock) {
+        work(moved.data(), run.was + at, run.from + at, at);
+        std::memcpy(run.to + at, moved.data(), kBlock);
+    }
+    if (at == run.bytes) return;
+    Bytes lastWas{};
     Bytes lastFrom{};
-    std::memcpy(lastTo.data(), to + at, bytes - at);
-    std::memcpy(lastFrom.data(), from + at, bytes - at);
-    block(lastTo.data(), lastFrom.data(), at);
-    std::memcpy(to + at, lastTo.data(), bytes - at);
+    std::memcpy(lastWas.data(), run.was + at, run.bytes - at);
+    std::memcpy(lastFrom.data(), run.from + at, run.bytes - at);
+    work(moved.data(), lastWas.data(), lastFrom.data(), at);
+    std::memcpy(run.to + at, moved.data(), run.bytes - at);
 }
 
 } // namespace
@@ -109,20 +124,19 @@ void ChainTable::Set(std::size_t link, std::size_t byte, std::uint8_t alpha) {
     factors_[link * stride_ + byte] = Factors()[alpha];
 }
 
-void ChainTable::Blend(std::uint8_t* to, const std::uint8_t* from, std::size_t bytes) const {
-    EachBlock(to, from, bytes, [this](std::uint8_t* toBlock, const std::uint8_t* fromBlock, std::size_t at) {
-        BlendBlock(toBlock, fromBlock, factors_.data() + at, stride_, links_);
+void ChainTable::Blend(const BlendRun& run) const {
+    EachBlock(run, [this](auto* moved, auto* was, auto* from, std::size_t at) {
+        BlendBlock(moved, was, from, factors_.data() + at, stride_, links_);
     });
 }
 
-void BlendChain(std::uint8_t* to, const std::uint8_t* from, std::span<const std::uint8_t> alphas,
-                std::size_t bytes) {
+void BlendChain(const BlendRun& run, std::span<const std::uint8_t> alphas) {
     std::vector<std::int16_t> factors;
     factors.reserve(alphas.size());
     for (const std::uint8_t alpha : alphas)
         factors.push_back(Factors()[alpha]);
-    EachBlock(to, from, bytes, [&](std::uint8_t* toBlock, const std::uint8_t* fromBlock, std::size_t) {
-        BlendBlockAlike(toBlock, fromBlock, factors.data(), factors.size());
+    EachBlock(run, [&](auto* moved, auto* was, auto* from, std::size_t) {
+        BlendBlockAlike(moved, was, from, factors.data(), factors.size());
     });
 }
 
@@ -130,7 +144,7 @@ std::optional<std::uint8_t> LimitOf(std::span<const std::uint8_t> alphas) {
     Bytes distances;
     std::iota(distances.begin(), distances.end(), std::uint8_t{0});
     const Bytes source{};
-    BlendChain(distances.data(), source.data(), alphas, kBlock);
+    BlendChain({distances.data(), distances.data(), source.data(), kBlock}, alphas);
     const std::uint8_t limit = distances.back();
     for (std::size_t distance = 0; distance < kBlock; ++distance) {
         if (distances[distance] != std::min<std::size_t>(distance, limit)) return std::nullopt;
@@ -138,17 +152,23 @@ std::optional<std::uint8_t> LimitOf(std::span<const std::uint8_t> alphas) {
     return limit;
 }
 
-MIRELLE_VERSIONS
-void LimitDistances(std::uint8_t* to, const std::uint8_t* from, const std::uint8_t* limits,
-                    std::size_t bytes) {
-    for (std::size_t i = 0; i < bytes; ++i)
-        to[i] = Moved(to[i], from[i], std::min(Distance(to[i], from[i]), limits[i]));
+void LimitDistances(const BlendRun& run, const std::uint8_t* limits) {
+    EachBlock(run, [&](auto* moved, auto* was, auto* from, std::size_t at) {
+        // The limits of the last one may be fewer than a block.
+        const std::size_t left = run.bytes - at;
+        if (left >= kBlock) return LimitBlock(moved, was, from, limits + at);
+        Bytes lastLimits{};
+        std::memcpy(lastLimits.data(), limits + at, left);
+        LimitBlock(moved, was, from, lastLimits.data());
+    });
 }
 
-MIRELLE_VERSIONS
-void LimitDistances(std::uint8_t* to, const std::uint8_t* from, std::uint8_t limit, std::size_t bytes) {
-    for (std::size_t i = 0; i < bytes; ++i)
-        to[i] = Moved(to[i], from[i], std::min(Distance(to[i], from[i]), limit));
+void LimitDistances(const BlendRun& run, std::uint8_t limit) {
+    Bytes limits;
+    limits.fill(limit);
+    EachBlock(run, [&](auto* moved, auto* was, auto* from, std::size_t) {
+        LimitBlock(moved, was, from, limits.data());
+    });
 }
 
 } // namespace mirelle

@@ -14,14 +14,21 @@
 
 namespace mirelle {
 
+// Bytes that are moved toward others. `to` may be `was`.
+struct BlendRun {
+    std::uint8_t* to;         // where the results go
+    const std::uint8_t* was;  // the bytes d
+    const std::uint8_t* from; // the bytes s
+    std::size_t bytes;
+};
+
 // What the chain of these alphas, in their order, leaves of every distance at most, where it leaves the
 // shorter ones as they are. 255 changes nothing, 0 gives the source. Nothing for any other chain.
 std::optional<std::uint8_t> LimitOf(std::span<const std::uint8_t> alphas);
 
-// Each byte of `to` comes as near to that of `from` as its limit tells.
-void LimitDistances(std::uint8_t* to, const std::uint8_t* from, const std::uint8_t* limits,
-                    std::size_t bytes);
-void LimitDistances(std::uint8_t* to, const std::uint8_t* from, std::uint8_t limit, std::size_t bytes);
+// Each byte comes as near to the source's as its limit tells, or as the one limit of all.
+void LimitDistances(const BlendRun& run, const std::uint8_t* limits);
+void LimitDistances(const BlendRun& run, std::uint8_t limit);
 
 // A chain for each byte of a run, all of so many links. A link that has not been set leaves its byte.
 class ChainTable {
@@ -29,8 +36,8 @@ public:
     ChainTable(std::size_t bytes, std::size_t links);
 
     void Set(std::size_t link, std::size_t byte, std::uint8_t alpha);
-    // The first `bytes` of the run.
-    void Blend(std::uint8_t* to, const std::uint8_t* from, std::size_t bytes) const;
+    // The run begins with the table's first byte.
+    void Blend(const BlendRun& run) const;
 
 private:
     std::size_t stride_;
@@ -39,7 +46,6 @@ private:
 };
 
 // One chain for all bytes.
-void BlendChain(std::uint8_t* to, const std::uint8_t* from, std::span<const std::uint8_t> alphas,
-                std::size_t bytes);
+void BlendChain(const BlendRun& run, std::span<const std::uint8_t> alphas);
 
 } // namespace mirelle

@@ -33,7 +33,8 @@ struct BandSizes {
 std::vector<Band> BandsOf(const BandSizes& sizes, double gradStart, double gradEnd, int direction);
 
 // Draws bands over what is on the destination, one after the other. The plain form draws each by AlphaBlend;
-// the other goes through the destination once, where no band is stretched, and gives the same bytes.
+// the other goes through the destination once, where no band is stretched, and gives the same bytes (see
+// BandRows.h).
 void DrawBands(Bitmap& destination, const Bitmap& source, const std::vector<Band>& bands);
 void DrawBandsPlain(Bitmap& destination, const Bitmap& source, const std::vector<Band>& bands);
 

@@ -1,6 +1,7 @@
 #include "gradient/ImageGradient.h"
 
 #include "app/FrmPicX.h"
+#include "gradient/BandRows.h"
 #include "gradient/GradientBands.h"
 
 namespace mirelle {
@@ -74,7 +75,11 @@ void ImageGradient::DrawGradient() {
             BandsOf(sizes, form_.hStart.Value(), form_.hEnd.Value(), form_.cmbDirection.ListIndex());
         if (bands.empty()) return;
         const Picture source = fade.Image();
-        DrawBands(form_.picDest.Paint(), source.Pixels(), bands);
+        const auto rows = BandRows::Of(bands, result.PixelWidth(), result.PixelHeight(), source.Pixels());
+        if (rows)
+            form_.picDest.PaintRows([&](int y, auto was, auto row) { rows->Draw(y, was, row); });
+        else
+            DrawBandsPlain(form_.picDest.Paint(), source.Pixels(), bands);
     });
     ResumeNext([this] { form_.PicImage.Picture = form_.picDest.Image(); });
     form_.PicImage.Refresh();

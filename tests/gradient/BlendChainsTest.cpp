@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <random>
+#include <span>
 #include <vector>
 
 namespace mirelle::test {
@@ -31,12 +32,17 @@ struct Pairs {
     Bytes to, from;
 };
 
+// Drawn over itself.
+BlendRun Over(Bytes& drawn, const Bytes& from) {
+    return {drawn.data(), drawn.data(), from.data(), drawn.size()};
+}
+
 TEST(BlendChainTest, OneBlendIsABlendForEveryPairAndAlpha) {
     const Pairs pairs;
     for (int alpha = 0; alpha < 256; ++alpha) {
         const Bytes chain{static_cast<std::uint8_t>(alpha)};
         Bytes drawn = pairs.to;
-        BlendChain(drawn.data(), pairs.from.data(), chain, drawn.size());
+        BlendChain(Over(drawn, pairs.from), chain);
         for (std::size_t i = 0; i < drawn.size(); ++i)
             ASSERT_EQ(drawn[i], Blended(pairs.from[i], pairs.to[i], chain[0])) << alpha << " " << i;
     }
@@ -47,10 +53,22 @@ TEST(BlendChainTest, LongerChainsAreTheirBlendsOneAfterTheOther) {
     for (const Bytes& chain : {Bytes{1, 1, 1, 2, 2}, Bytes{20, 20, 21, 21, 22}, Bytes{100, 101, 102},
                                Bytes{250, 3, 255, 90}, Bytes{0}, Bytes{}}) {
         Bytes drawn = pairs.to;
-        BlendChain(drawn.data(), pairs.from.data(), chain, drawn.size());
+        BlendChain(Over(drawn, pairs.from), chain);
         for (std::size_t i = 0; i < drawn.size(); ++i)
             ASSERT_EQ(drawn[i], OneByOne(pairs.to[i], pairs.from[i], chain)) << i;
     }
+}
+
+TEST(BlendChainTest, MayGoToOtherMemoryAndLeavesWhatWasThere) {
+    const Pairs pairs;
+    const Bytes chain{20, 20, 21, 21, 22};
+    Bytes drawn(1000, 7);
+    const Bytes was(pairs.to.begin() + 300, pairs.to.begin() + 1300);
+    BlendChain({drawn.data(), was.data(), pairs.from.data(), drawn.size() - 1}, chain);
+    for (std::size_t i = 0; i + 1 < drawn.size(); ++i)
+        ASSERT_EQ(drawn[i], OneByOne(was[i], pairs.from[i], chain)) << i;
+    EXPECT_EQ(drawn.back(), 7);
+    EXPECT_TRUE(std::ranges::equal(was, std::span(pairs.to).subspan(300, 1000)));
 }
 
 TEST(BlendChainTest, ATableHasAChainForEachByteOfARunOfAnyLength) {
@@ -70,7 +88,7 @@ TEST(BlendChainTest, ATableHasAChainForEachByteOfARunOfAnyLength) {
             }
         }
         Bytes drawn = to;
-        table.Blend(drawn.data(), from.data(), bytes);
+        table.Blend(Over(drawn, from));
         for (std::size_t i = 0; i < bytes; ++i)
             ASSERT_EQ(drawn[i], OneByOne(to[i], from[i], chains[i])) << bytes << " " << i;
     }
@@ -104,10 +122,10 @@ TEST(LimitDistancesTest, BringsEachByteAsNearAsItsLimitTells) {
     const Pairs pairs;
     for (const int limit : {0, 1, 2, 100, 254, 255}) {
         Bytes one = pairs.to;
-        LimitDistances(one.data(), pairs.from.data(), static_cast<std::uint8_t>(limit), one.size());
+        LimitDistances(Over(one, pairs.from), static_cast<std::uint8_t>(limit));
         Bytes each = pairs.to;
         const Bytes limits(each.size(), static_cast<std::uint8_t>(limit));
-        LimitDistances(each.data(), pairs.from.data(), limits.data(), each.size());
+        LimitDistances(Over(each, pairs.from), limits.data());
         for (std::size_t i = 0; i < one.size(); ++i) {
             const int expected = std::clamp<int>(pairs.to[i], pairs.from[i] - limit, pairs.from[i] + limit);
             ASSERT_EQ(one[i], expected) << limit << " " << i;
