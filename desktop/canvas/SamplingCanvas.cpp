@@ -52,7 +52,7 @@ void SamplingCanvas::FollowShapes() {
 }
 
 void SamplingCanvas::FollowPicture() {
-    const Picture picture = form_.Image();
+    const Picture picture = form_.Seen();
     const bool hint = form_.PicImage.Picture().IsEmpty();
     if (picture.SharesPixelsWith(shown_) && hint == hintShown_) return;
     shown_ = picture;

@@ -1,6 +1,7 @@
 #include "desktop/pictures/JpegReader.h"
 
 #include "codecs/PictureLimits.h"
+#include "desktop/pictures/FourthBytes.h"
 #include "forms/RunTimeError.h"
 
 #include <array>
@@ -83,11 +84,6 @@ bool JpegDecoder::ReadHeader() {
     const bool hasFour = decoder_.jpeg_color_space == JCS_CMYK || decoder_.jpeg_color_space == JCS_YCCK;
     decoder_.out_color_space = hasFour ? JCS_CMYK : JCS_EXT_BGRX;
     return true;
-}
-
-void ClearFourthBytes(std::span<Pixel> row) {
-    for (Pixel& pixel : row)
-        pixel.fourth = 0;
 }
 
 // Cyan, magenta, yellow and black stand in the pixels' bytes in this order.

@@ -2,10 +2,10 @@
 
 #include "codecs/OverWhite.h"
 #include "codecs/PictureLimits.h"
+#include "desktop/pictures/FourthBytes.h"
 #include "forms/RunTimeError.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstddef>
 #include <cstring>
 
@@ -25,13 +25,10 @@ Bitmap CopyOf(const QImage& image) {
     return bitmap;
 }
 
-Bitmap CopyWithFourthBytesClear(const QImage& image) {
+Bitmap OpaqueCopyOf(const QImage& image) {
     Bitmap bitmap = Bitmap::Unwritten(image.width(), image.height());
-    for (int y = 0; y < image.height(); ++y) {
-        const auto* from = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        std::transform(from, from + image.width(), bitmap.Row(y).begin(),
-                       [](QRgb pixel) { return std::bit_cast<Pixel>(pixel & RGB_MASK); });
-    }
+    for (int y = 0; y < image.height(); ++y)
+        CopyWithFourthBytesClear(image.constScanLine(y), bitmap.Row(y));
     return bitmap;
 }
 
@@ -63,7 +60,7 @@ Bitmap OpaqueBitmap(const QImage& image) {
 
 Bitmap BitmapWithAlpha(const QImage& image) {
     if (image.hasAlphaChannel()) return CopyOf(image.convertToFormat(QImage::Format_ARGB32));
-    return CopyWithFourthBytesClear(image.convertToFormat(QImage::Format_RGB32));
+    return OpaqueCopyOf(image.convertToFormat(QImage::Format_RGB32));
 }
 
 QImage ImageOver(const Bitmap& bitmap) {
