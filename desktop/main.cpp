@@ -37,6 +37,7 @@ int main(int argc, char** argv) {
     mirelle::SplashWindow splash(sampler.splash, desktop.dialogs);
     sampler.splash.Load();
     QCoreApplication::processEvents(); // the splash is seen while the main window is made
+    mirelle::look::ApplyIcon();
 
     mirelle::MainWindow window(sampler.form);
     mirelle::ManualWindow manual(sampler.manual, sampler.form, window);

@@ -19,6 +19,9 @@ void ApplyLook(QApplication& application) {
     QToolTip::setFont(font);
     QToolTip::setPalette(MakePalette());
     application.installEventFilter(new ToolTips(&application));
+}
+
+void ApplyIcon() {
     QApplication::setWindowIcon(ApplicationIcon());
 }
 

@@ -276,6 +276,7 @@ TEST_F(StyleTest, MessageBoxesHaveOurDrawings) {
 
 TEST(Look, GivesTheApplicationStylePaletteTypeAndIcon) {
     ApplyLook(*qApp);
+    ApplyIcon();
     EXPECT_EQ(QApplication::palette().color(QPalette::Window).rgb(), kCard);
     EXPECT_EQ(QApplication::font().pixelSize(), kTypeSize);
     EXPECT_FALSE(QApplication::windowIcon().isNull());
