@@ -10,14 +10,25 @@
 namespace mirelle {
 namespace {
 
-// Sorts names without regard to case; equal ones by their bytes, so that the order is always the same.
-void SortNames(std::vector<std::string>& names) {
-    std::vector<std::pair<std::string, std::string>> keyed;
+// A name behind its form in small letters.
+using KeyedName = std::pair<std::string, std::string>;
+
+std::vector<KeyedName> Keyed(std::vector<std::string> names) {
+    std::vector<KeyedName> keyed;
     keyed.reserve(names.size());
     for (std::string& name : names)
         keyed.emplace_back(LowerCase(name), std::move(name));
+    return keyed;
+}
+
+// Sorts names without regard to case; equal ones by their bytes, so that the order is always the same.
+std::vector<std::string> Sorted(std::vector<KeyedName> keyed) {
     std::ranges::sort(keyed);
-    std::ranges::transform(keyed, names.begin(), [](auto& entry) { return std::move(entry.second); });
+    std::vector<std::string> names;
+    names.reserve(keyed.size());
+    for (KeyedName& entry : keyed)
+        names.push_back(std::move(entry.second));
+    return names;
 }
 
 // Matching by the usual walk with one point to come back to: the last star seen.
@@ -111,8 +122,7 @@ void DirListBox::FollowDisk() {
 }
 
 std::vector<std::string> DirListBox::FoldersInside() const {
-    std::vector<std::string> folders = files_.FolderNames(path_);
-    SortNames(folders);
+    std::vector<std::string> folders = Sorted(Keyed(files_.FolderNames(path_)));
     const bool atRoot = !path_.empty() && path_.back() == files_.Separator();
     const std::string base = atRoot ? path_ : path_ + files_.Separator();
     for (std::string& folder : folders)
@@ -160,11 +170,12 @@ void FileListBox::ReadNames() {
     current_ = kNoRow;
     names_.clear();
     // A folder that went away or can't be read lists nothing.
-    ResumeNext([this] { names_ = files_.FileNames(path_); });
-    const std::vector<std::string> patterns = PatternsOf(pattern_);
-    std::erase_if(names_,
-                  [&patterns](const std::string& name) { return !MatchesAny(LowerCase(name), patterns); });
-    SortNames(names_);
+    ResumeNext([this] {
+        std::vector<KeyedName> files = Keyed(files_.FileNames(path_));
+        const std::vector<std::string> patterns = PatternsOf(pattern_);
+        std::erase_if(files, [&](const KeyedName& file) { return !MatchesAny(file.first, patterns); });
+        names_ = Sorted(std::move(files));
+    });
     TellWatchers();
 }
 

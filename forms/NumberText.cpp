@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 
 namespace mirelle {
@@ -79,6 +80,10 @@ std::string ShortForm(Float value, int precision) {
 } // namespace
 
 std::string CStr(double value) {
+    // Most numbers are whole and short: their digits are all there is to show.
+    constexpr double kShort = 1e15;
+    if (std::fabs(value) < kShort && std::trunc(value) == value)
+        return std::to_string(static_cast<std::int64_t>(value));
     return ShortForm(value, 15);
 }
 

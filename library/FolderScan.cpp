@@ -4,6 +4,9 @@
 #include "forms/Text.h"
 #include "library/FileNumber.h"
 
+#include <cstdint>
+#include <limits>
+
 namespace mirelle {
 namespace {
 
@@ -25,8 +28,8 @@ void ShowHighestNumber(FrmPicX& form) {
         double number = 0;
         ResumeNext([&] { number = Val(text); });
         if (!(number > high)) continue;
-        // A number that does not fit fails here alone: the next statement runs with the maximum as it was.
-        ResumeNext([&] { high = ToInteger(number); });
+        // A number that does not fit leaves the maximum as it was.
+        if (RoundHalfEven(number) <= std::numeric_limits<std::int16_t>::max()) high = ToInteger(number);
         if (high < kFirstNumberNotShown && form.ckIncrement.Value == kChecked)
             form.TextLoops.Text = Trim(CStr(high));
     }
