@@ -6,6 +6,7 @@
 #include "desktop/binding/HandlerGuard.h"
 #include "desktop/binding/Updater.h"
 #include "desktop/canvas/PictureImage.h"
+#include "desktop/look/Card.h"
 #include "desktop/look/Tokens.h"
 
 #include <QMouseEvent>
@@ -57,7 +58,17 @@ void SamplingCanvas::FollowPicture() {
     if (picture.SharesPixelsWith(shown_) && hint == hintShown_) return;
     shown_ = picture;
     hintShown_ = hint;
-    update();
+    update(SeenRegion());
+}
+
+// What the cards over the canvas leave of it. They would be painted anew with what lies beneath them.
+QRegion SamplingCanvas::SeenRegion() const {
+    QRegion seen = rect();
+    for (const QObject* sibling : parent()->children()) {
+        const auto* card = qobject_cast<const look::Card*>(sibling);
+        if (card && card->isVisible()) seen -= card->OpaqueRegion().translated(-pos());
+    }
+    return seen;
 }
 
 void SamplingCanvas::FollowPointer() {

@@ -33,6 +33,7 @@ private:
     void FollowShapes();
     void FollowPicture();
     void FollowPointer();
+    QRegion SeenRegion() const;
     void PaintHint(QPainter& painter) const;
     void Release(int button);
 

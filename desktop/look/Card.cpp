@@ -22,6 +22,12 @@ void Card::SetCaption(const QString& caption) {
     update();
 }
 
+QRegion Card::OpaqueRegion() const {
+    const QRect place = geometry();
+    return QRegion(place.adjusted(kCardRadius, 0, -kCardRadius, 0)) +
+           place.adjusted(0, kCardRadius, 0, -kCardRadius);
+}
+
 void Card::SetBody(QLayout* body) {
     body->setContentsMargins({});
     setLayout(body);

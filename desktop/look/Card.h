@@ -2,6 +2,7 @@
 // card, so that a press beside its controls does not start anything on the canvas beneath.
 #pragma once
 
+#include <QRegion>
 #include <QWidget>
 
 namespace mirelle::look {
@@ -10,6 +11,9 @@ class Card : public QWidget {
     Q_OBJECT
 public:
     explicit Card(const QString& caption = {}, QWidget* parent = nullptr);
+
+    // All but its corners, in its parent's places: nothing beneath is to be seen there.
+    QRegion OpaqueRegion() const;
 
     const QString& Caption() const { return caption_; }
     void SetCaption(const QString& caption); // also the accessible name

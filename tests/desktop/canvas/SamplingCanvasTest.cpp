@@ -1,5 +1,6 @@
 // The canvas at every scale factor: what it paints, and what handlers are told of the mouse.
 #include "desktop/canvas/SamplingCanvas.h"
+#include "desktop/look/Card.h"
 #include "tests/desktop/Mouse.h"
 #include "tests/desktop/Pixels.h"
 #include "tests/support/Patterns.h"
@@ -9,6 +10,7 @@
 #include <gmock/gmock.h>
 
 #include <QMouseEvent>
+#include <QPaintEvent>
 
 namespace mirelle::test {
 namespace {
@@ -77,6 +79,31 @@ TEST_F(SamplingCanvasTest, ShowsWhatAHandlerPaintsAfterThePictureWasShown) {
     form.Paint().At(10, 20) = {1, 2, 3, 0};
     QCoreApplication::processEvents();
     EXPECT_EQ(PixelAt(Painted(canvas), 10, 20), (Pixel{1, 2, 3, 0}));
+}
+
+// A card that notes what of it is painted.
+struct NotingCard : look::Card {
+    using Card::Card;
+    void paintEvent(QPaintEvent* event) override {
+        painted += event->region();
+        Card::paintEvent(event);
+    }
+    QRegion painted;
+};
+
+TEST_F(SamplingCanvasTest, ANewPicturePaintsNothingOfACardOverItButTheCorners) {
+    NotingCard card({}, &window);
+    card.setGeometry(40, 40, 200, 100);
+    card.show();
+    LetItPaint();
+    card.painted = {};
+    Open(ChartPicture(640, 480));
+    LetItPaint();
+    EXPECT_FALSE(card.painted.intersects(QRect(0, 20, 200, 60)));
+    EXPECT_TRUE(card.painted.contains(QPoint(1, 1)));
+    card.hide();
+    LetItPaint();
+    EXPECT_EQ(PixelAt(Painted(canvas), 140, 90), Chart(640, 480).At(140, 90)) << "beneath it";
 }
 
 TEST_F(SamplingCanvasTest, ADragCropsItsVeryPixels) {
