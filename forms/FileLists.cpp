@@ -10,25 +10,47 @@
 namespace mirelle {
 namespace {
 
-// A name behind its form in small letters.
-using KeyedName = std::pair<std::string, std::string>;
+// Many names in small letters, in one text: a large folder's would be as many blocks of memory.
+class SmallNames {
+public:
+    explicit SmallNames(const std::vector<std::string>& names) {
+        ends_.reserve(names.size());
+        for (const std::string& name : names)
+            ends_.push_back(text_.append(LowerCase(name)).size());
+    }
+    std::string_view operator[](std::size_t i) const {
+        const std::size_t begin = i == 0 ? 0 : ends_[i - 1];
+        return std::string_view(text_).substr(begin, ends_[i] - begin);
+    }
 
-std::vector<KeyedName> Keyed(std::vector<std::string> names) {
-    std::vector<KeyedName> keyed;
-    keyed.reserve(names.size());
-    for (std::string& name : names)
-        keyed.emplace_back(LowerCase(name), std::move(name));
-    return keyed;
-}
+private:
+    std::string text_;
+    std::vector<std::size_t> ends_;
+};
 
-// Sorts names without regard to case; equal ones by their bytes, so that the order is always the same.
-std::vector<std::string> Sorted(std::vector<KeyedName> keyed) {
-    std::ranges::sort(keyed);
-    std::vector<std::string> names;
-    names.reserve(keyed.size());
-    for (KeyedName& entry : keyed)
-        names.push_back(std::move(entry.second));
-    return names;
+// The names whose small letters are wanted, sorted without regard to case; equal ones by their bytes, so that
+// the order is always the same.
+template <class IsWanted>
+std::vector<std::string> Sorted(std::vector<std::string> names, const IsWanted& isWanted) {
+    struct Place {
+        std::string_view small;
+        std::string* name;
+    };
+    const SmallNames small(names);
+    std::vector<Place> places;
+    places.reserve(names.size());
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (isWanted(small[i])) places.push_back({small[i], &names[i]});
+    }
+    std::ranges::sort(places, [](const Place& a, const Place& b) {
+        const int order = a.small.compare(b.small);
+        return order != 0 ? order < 0 : *a.name < *b.name;
+    });
+    std::vector<std::string> sorted;
+    sorted.reserve(places.size());
+    for (const Place& place : places)
+        sorted.push_back(std::move(*place.name));
+    return sorted;
 }
 
 // Matching by the usual walk with one point to come back to: the last star seen.
@@ -122,7 +144,8 @@ void DirListBox::FollowDisk() {
 }
 
 std::vector<std::string> DirListBox::FoldersInside() const {
-    std::vector<std::string> folders = Sorted(Keyed(files_.FolderNames(path_)));
+    std::vector<std::string> folders =
+        Sorted(files_.FolderNames(path_), [](std::string_view) { return true; });
     const bool atRoot = !path_.empty() && path_.back() == files_.Separator();
     const std::string base = atRoot ? path_ : path_ + files_.Separator();
     for (std::string& folder : folders)
@@ -171,10 +194,9 @@ void FileListBox::ReadNames() {
     names_.clear();
     // A folder that went away or can't be read lists nothing.
     ResumeNext([this] {
-        std::vector<KeyedName> files = Keyed(files_.FileNames(path_));
         const std::vector<std::string> patterns = PatternsOf(pattern_);
-        std::erase_if(files, [&](const KeyedName& file) { return !MatchesAny(file.first, patterns); });
-        names_ = Sorted(std::move(files));
+        names_ = Sorted(files_.FileNames(path_),
+                        [&](std::string_view small) { return MatchesAny(small, patterns); });
     });
     TellWatchers();
 }
