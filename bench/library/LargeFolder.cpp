@@ -3,6 +3,7 @@
 #include "bench/peers/LibJpegTurbo.h"
 #include "bench/Photograph.h"
 
+#include <chrono>
 #include <filesystem>
 
 namespace mirelle::bench {
@@ -23,6 +24,9 @@ void Fill(const test::TemporaryFolder& home, const std::string& folder, int file
         else
             std::filesystem::create_hard_link(shared, home / name);
     }
+    // It was filled some time ago, as libraries are.
+    const auto now = std::filesystem::last_write_time(home / folder);
+    std::filesystem::last_write_time(home / folder, now - std::chrono::hours(1));
 }
 
 } // namespace
