@@ -11,6 +11,8 @@
 #include <cstring>
 #include <memory>
 #include <new>
+#include <string_view>
+#include <utility>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -71,7 +73,7 @@ std::size_t ReadInto(int descriptor, std::span<std::uint8_t> bytes, const std::s
     return count;
 }
 
-bool IsHiddenName(const std::string& name) {
+bool IsHiddenName(std::string_view name) {
     return name.starts_with('.');
 }
 
@@ -138,14 +140,23 @@ bool IsHiddenFile(const std::string& path) {
 
 std::vector<std::string> EntryNames(const std::string& folder, EntryKind kind,
                                     const FollowsLink& followsLink) {
+    Entries entries = ReadEntries(folder, followsLink);
+    return std::move(kind == EntryKind::File ? entries.files : entries.folders);
+}
+
+Entries ReadEntries(const std::string& folder, const FollowsLink& followsLink) {
     const OpenFolder open{::opendir(folder.c_str())};
     if (!open) throw RunTimeError(ErrorNumber::PathNotFound);
-    std::vector<std::string> names;
+    Entries entries;
     while (const dirent* entry = ::readdir(open.get())) {
         if (IsHiddenName(entry->d_name)) continue;
-        if (IsOfKind(open, *entry, kind, followsLink)) names.emplace_back(entry->d_name);
+        if (IsOfKind(open, *entry, EntryKind::File, followsLink))
+            entries.files.emplace_back(entry->d_name);
+        else if (IsOfKind(open, *entry, EntryKind::Folder, followsLink))
+            entries.folders.emplace_back(entry->d_name);
+        if (entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN) entries.hasLinks = true;
     }
-    return names;
+    return entries;
 }
 
 std::vector<std::string> AllNames(const std::string& folder) {

@@ -61,6 +61,14 @@ using FollowsLink = std::function<bool(const std::string& name)>;
 std::vector<std::string> EntryNames(const std::string& folder, EntryKind kind,
                                     const FollowsLink& followsLink = {});
 
+// Both at once. Links are told of because they can come to lead elsewhere while the folder stays as it is.
+struct Entries {
+    std::vector<std::string> files;
+    std::vector<std::string> folders;
+    bool hasLinks = false; // or entries of which the folder does not tell the kind
+};
+Entries ReadEntries(const std::string& folder, const FollowsLink& followsLink);
+
 // All names in the folder, hidden ones too, but "." and "..". Nothing where it can't be listed.
 std::vector<std::string> AllNames(const std::string& folder);
 

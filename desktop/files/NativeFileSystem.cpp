@@ -1,5 +1,6 @@
 #include "desktop/files/NativeFileSystem.h"
 
+#include "desktop/files/LastFolder.h"
 #include "desktop/files/MountedVolumes.h"
 
 #include <algorithm>
@@ -68,7 +69,8 @@ std::string RealFolder(const std::string& path) {
 NativeFileSystem::NativeFileSystem(const std::string& appFolder, std::string dumpFile,
                                    const std::string& fence)
     : appFolder_(WithoutEndingSeparator(appFolder)), dumpFile_(std::move(dumpFile)),
-      fence_(fence.empty() ? std::string() : RealFolder(fence)) {}
+      fence_(fence.empty() ? std::string() : RealFolder(fence)),
+      lastFolder_(std::make_shared<host::LastFolder>()) {}
 
 char NativeFileSystem::Separator() const {
     return '/';
@@ -108,7 +110,7 @@ bool NativeFileSystem::IsHidden(const std::string& path) const {
 std::vector<std::string> NativeFileSystem::NamesIn(const std::string& folder, host::EntryKind kind) const {
     if (!IsPath(folder) || !IsInReach(folder)) throw RunTimeError(ErrorNumber::PathNotFound);
     const auto follows = [&](const std::string& name) { return IsInReach(folder + '/' + name); };
-    return host::EntryNames(folder, kind, follows);
+    return lastFolder_->Names(folder, kind, follows);
 }
 
 std::string NativeFileSystem::Checked(const std::string& path, ErrorNumber outOfReach) const {

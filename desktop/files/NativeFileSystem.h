@@ -5,9 +5,14 @@
 #include "forms/ports/FileSystem.h"
 #include "forms/RunTimeError.h"
 
+#include <memory>
 #include <string>
 
 namespace mirelle {
+
+namespace host {
+class LastFolder;
+}
 
 class NativeFileSystem : public FileSystem {
 public:
@@ -44,6 +49,8 @@ private:
     std::string appFolder_;
     std::string dumpFile_;
     std::string fence_; // a real path, or empty
+    // Where folders are read in one go for both kinds of entries.
+    std::shared_ptr<host::LastFolder> lastFolder_;
 };
 
 } // namespace mirelle

@@ -4,7 +4,9 @@
 #include "tests/support/ErrorOf.h"
 #include "tests/support/TemporaryFolder.h"
 
+#include <chrono>
 #include <filesystem>
+#include <fstream>
 
 #include <gmock/gmock.h>
 #include <sys/socket.h>
@@ -144,6 +146,49 @@ TEST_F(NativeFileSystemTest, ListsFilesAndFoldersApartAndLeavesOutWhatIsHidden) 
     EXPECT_FALSE(files_.IsHidden(folder_ / ".missing.jpg"));
     EXPECT_FALSE(files_.IsHidden(folder_ / ".git"));
     EXPECT_FALSE(files_.IsHidden(folder_ / "wall.jpg"));
+}
+
+// Folders that have stood for a while are read in one go for both lists.
+TEST_F(NativeFileSystemTest, ListsWhatCameAfterTheOtherListOfTheSameFolder) {
+    for (const bool isOld : {false, true}) {
+        const std::string folder = folder_.MakeFolder(isOld ? "old" : "new");
+        folder_.MakeFile((isOld ? "old" : "new") + std::string("/first.jpg"));
+        const auto longAgo = fs::last_write_time(folder) - std::chrono::hours(1);
+        if (isOld) fs::last_write_time(folder, longAgo);
+        EXPECT_THAT(files_.FolderNames(folder), IsEmpty());
+        EXPECT_THAT(files_.FileNames(folder), ElementsAre("first.jpg"));
+
+        if (isOld) fs::last_write_time(folder, longAgo);
+        EXPECT_THAT(files_.FolderNames(folder), IsEmpty());
+        fs::create_directory(folder + "/inner");
+        std::ofstream(folder + "/second.jpg") << "x";
+        EXPECT_THAT(Sorted(files_.FileNames(folder)), ElementsAre("first.jpg", "second.jpg"));
+        EXPECT_THAT(files_.FolderNames(folder), ElementsAre("inner"));
+    }
+}
+
+TEST_F(NativeFileSystemTest, ListsEachOfTwoFoldersAfterTheOther) {
+    const auto longAgo = fs::last_write_time(folder_.Path()) - std::chrono::hours(1);
+    for (const char* name : {"one", "two"}) {
+        folder_.MakeFolder(name);
+        folder_.MakeFile(std::string(name) + "/of " + name + ".jpg");
+        fs::last_write_time(folder_ / name, longAgo);
+    }
+    EXPECT_THAT(files_.FolderNames(folder_ / "one"), IsEmpty());
+    EXPECT_THAT(files_.FileNames(folder_ / "two"), ElementsAre("of two.jpg"));
+    EXPECT_THAT(files_.FileNames(folder_ / "one"), ElementsAre("of one.jpg"));
+}
+
+TEST_F(NativeFileSystemTest, ListsALinkAsWhatItLeadsToByThen) {
+    const std::string folder = folder_.MakeFolder("links");
+    folder_.MakeFile("target");
+    fs::create_symlink("../target", folder + "/link");
+    fs::last_write_time(folder, fs::last_write_time(folder) - std::chrono::hours(1));
+    EXPECT_THAT(files_.FolderNames(folder), IsEmpty());
+    fs::remove(folder_ / "target");
+    fs::create_directory(folder_ / "target");
+    EXPECT_THAT(files_.FileNames(folder), IsEmpty());
+    EXPECT_THAT(files_.FolderNames(folder), ElementsAre("link"));
 }
 
 TEST_F(NativeFileSystemTest, ListsLinksAsWhatTheyLeadTo) {
