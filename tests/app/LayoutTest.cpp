@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace mirelle {
 namespace {
 
@@ -130,6 +132,24 @@ TEST(NormalLayout, HasFixedNumbers) {
 }
 
 constexpr std::array kFileArea = {"Dir5", "Drive5", "Combo5", "File5"};
+
+TEST(NormalLayout, IsWhereTheDesignHasThePanels) {
+    TestProgram program;
+    FrmPicX& form = program.form;
+    Control* const panels[] = {&form.Frame4,         &form.Frame5,          &form.Frame6,
+                               &form.Frame7,         &form.Frame8,          &form.List2,
+                               &form.FrameMatCanvas, &form.FrameMatCanvas2, &form.File5};
+    const auto placesOf = [&] {
+        std::vector<float> places;
+        for (const Control* panel : panels)
+            for (const auto measure : {kLeft, kTop, kWidth, kHeight})
+                places.push_back((panel->*measure)());
+        return places;
+    };
+    const std::vector<float> designed = placesOf();
+    LayOutNormal(form);
+    EXPECT_EQ(placesOf(), designed);
+}
 
 TEST(LargeLayout, GivesTheFileAreaToAVisiblePalette) {
     TestProgram program;
