@@ -106,7 +106,10 @@ bool MatchesPattern(std::string_view name, std::string_view patterns) {
 DriveListBox::DriveListBox(Form& form, std::string name, FileSystem& files)
     : Control(form, std::move(name)), files_(files) {
     const std::vector<std::string> drives = files_.Drives();
-    if (!drives.empty()) Drive.SetQuietly(drives.front());
+    const std::string home = LowerCase(files_.AppPath());
+    const auto own = std::ranges::find_if(
+        drives, [&home](const std::string& drive) { return home.starts_with(LowerCase(drive)); });
+    if (!drives.empty()) Drive.SetQuietly(own == drives.end() ? drives.front() : *own);
     Drive.OnChange([this] { Change(); });
 }
 

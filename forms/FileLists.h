@@ -9,7 +9,8 @@
 
 namespace mirelle {
 
-// The choice of a root. Any text can be set; whether it is ready shows when a folder list goes there.
+// The choice of a root, at first the one that the program lies below. Any text can be set; whether it is
+// ready shows when a folder list goes there.
 class DriveListBox : public Control {
 public:
     DriveListBox(Form& form, std::string name, FileSystem& files);

@@ -18,6 +18,7 @@ QFont BodyFont() {
         const QStringList families = QFontDatabase::applicationFontFamilies(id);
         if (!families.isEmpty()) font.setFamily(families.front());
     }
+    font.setStyleHint(QFont::SansSerif); // for a system that names a family which it lacks
     font.setPixelSize(kTypeSize);
     return font;
 }

@@ -255,6 +255,13 @@ TEST_F(FileListsTest, ADriveListOffersTheDrivesAndTakesAnyText) {
     EXPECT_THAT(events, ElementsAre("Change", "Change"));
 }
 
+TEST_F(FileListsTest, ADriveListBeginsWithTheDriveThatTheProgramLiesOn) {
+    MemoryFileSystem other("D:\\Mirelle");
+    other.AddFolder("C:\\Mats");
+    ASSERT_THAT(other.Drives(), ElementsAre("c:", "d:"));
+    EXPECT_EQ(DriveListBox(form, "Drive1", other).Drive(), "d:");
+}
+
 struct PatternRow {
     const char* pattern;
     const char* name;
