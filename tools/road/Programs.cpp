@@ -130,4 +130,13 @@ void PutOnClipboard(const std::string& pictureFile) {
     if (QProcess::execute("xclip", Words(words)) != 0) throw std::runtime_error("nothing was copied");
 }
 
+void TakeFromClipboard(const std::string& pictureFile) {
+    Await("a picture on the clipboard", [&] {
+        QProcess xclip;
+        xclip.setStandardOutputFile(QString::fromStdString(pictureFile));
+        xclip.start("xclip", {"-selection", "clipboard", "-t", "image/bmp", "-o"});
+        return xclip.waitForFinished() && xclip.exitCode() == 0;
+    });
+}
+
 } // namespace mirelle::road

@@ -63,5 +63,7 @@ private:
 
 // Puts a PNG or BMP file on the clipboard, as another program does that is asked for a copy.
 void PutOnClipboard(const std::string& pictureFile);
+// Writes what another program has put there as a BMP file. Waits for it.
+void TakeFromClipboard(const std::string& pictureFile);
 
 } // namespace mirelle::road

@@ -16,6 +16,7 @@ namespace {
 using road::Console;
 using road::ConsoleOf;
 using road::Road;
+using road::TakeFromClipboard;
 using road::WindowsProgram;
 
 // MIRELLE_WINDOWS_TREE names the unpacked folder, MIRELLE_WINDOWS_PICTURES the one for pictures of the
@@ -51,9 +52,10 @@ protected:
 };
 
 TEST_F(WindowsRoad, LeavesWhatWasSentInTheModelLineByLine) {
-    const Console console(folder_.Path(),
-                          ConsoleOf({wine_, Tool("edit_console"), "Ruby Console", "60", "60", "500", "300"}));
+    const Console console(
+        folder_.Path(), ConsoleOf({wine_, Tool("edit_console"), "Ruby Console", "1130", "40", "500", "780"}));
     Road road(WindowsProgram(wine_, Tool("widget_teller"), home_));
+    road.TheDesk().PlaceWindow("Mirelle", {8, 32, 1100, 780});
     Walk walk(road, console);
     WalkOrTell(road, [&] {
         Shoot(road, "1-started");
@@ -70,6 +72,19 @@ TEST_F(WindowsRoad, LeavesWhatWasSentInTheModelLineByLine) {
     });
     EXPECT_EQ(console.Ask("Typed.lines"), walk.Lines());
     EXPECT_EQ(console.Ask("Typed.errors"), "[]");
+}
+
+TEST_F(WindowsRoad, WhatWasCopiedOutlivesTheProgram) {
+    Road road(WindowsProgram(wine_, Tool("widget_teller"), home_));
+    const road::LibraryFile file{"Art", "Art_2.jpg"};
+    WalkOrTell(road, [&] {
+        road.Select(file);
+        road.Press("Copy current Material Image to left to clipboard; pastes as full screen");
+        road.Close();
+    });
+    const std::string copied = folder_ / "copied.bmp";
+    TakeFromClipboard(copied);
+    EXPECT_LE(MeanDifference(PixelsOf(copied), PixelsOf(road.FileOf(file))), 1); // two decoders
 }
 
 } // namespace
