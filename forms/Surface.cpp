@@ -130,7 +130,13 @@ Color Surface::Point(double x, double y) const {
 
 void Surface::Copy(const Bitmap& source, PixelArea from, int left, int top) {
     if (from.IsEmpty()) return;
-    // The source may be this surface's own image: Paint then takes the copy.
+    const bool paintsAll = Clip(from.width, from.x, source.Width(), left, width_).length == width_ &&
+                           Clip(from.height, from.y, source.Height(), top, height_).length == height_;
+    const bool hasOwn = image_ && image_.use_count() == 1;
+    // Where nothing is left of what was there, it need not be made first.
+    if (paintsAll && !hasOwn) image_ = std::make_shared<Bitmap>(Bitmap::Unwritten(width_, height_));
+    // The source may be this surface's own image, which whoever asks for the copy holds: so it is not painted
+    // in.
     CopyRect(source, from, Paint(), left, top);
 }
 

@@ -46,6 +46,21 @@ TEST(SurfaceSize, AnAssignedPictureTakesThePlaceOfWhatWasPainted) {
     EXPECT_EQ(surface.Image().Pixels().At(15, 15), kRed);
 }
 
+TEST(SurfaceCopy, OfAllOfItLeavesWhatOthersHoldAndNothingOfWhatWasThere) {
+    Surface surface = SurfaceWithPicture(10, 10);
+    surface.Paint().At(3, 3) = kGreen;
+    const Picture held = surface.Image();
+    const Bitmap source(30, 30, {1, 2, 3, 0});
+    surface.Copy(source, {5, 5, 10, 10}, 0, 0);
+    EXPECT_EQ(held.Pixels().At(3, 3), kGreen);
+    EXPECT_EQ(surface.Image().Pixels(), Bitmap(10, 10, {1, 2, 3, 0}));
+    // What lies beyond the source is not copied.
+    surface.Clear();
+    surface.Copy(source, {25, 0, 10, 10}, 0, 0);
+    EXPECT_EQ(surface.Image().Pixels().At(4, 4), (Pixel{1, 2, 3, 0}));
+    EXPECT_EQ(surface.Image().Pixels().At(5, 4), kRed);
+}
+
 // Every second pixel green; the others as they were.
 void PaintStripes(Surface& surface) {
     surface.PaintRows([](int, std::span<const Pixel> was, std::span<Pixel> row) {
