@@ -13,6 +13,21 @@
 
 namespace mirelle {
 
+namespace {
+
+// So many rows for each row that is shown make it smooth; more make it slow, where a photograph is shown
+// small.
+constexpr int kRowsForOne = 4;
+
+// A part of the image's rows, over the same pixels.
+QImage EnoughRows(const QImage& image, int shownHeight) {
+    const int step = std::max(1, image.height() / (kRowsForOne * shownHeight));
+    return {image.constBits(), image.width(), (image.height() + step - 1) / step, image.bytesPerLine() * step,
+            image.format()};
+}
+
+} // namespace
+
 FittedView::FittedView(Watched& source, std::function<Shown()> read, QWidget* parent)
     : QWidget(parent), read_(std::move(read)) {
     ShowWhenChanged(source, this, [this] {
@@ -69,8 +84,10 @@ void FittedView::paintEvent(QPaintEvent*) {
     const QRect place = PlaceInDevicePixels();
     if (place.isEmpty()) return;
     if (scaled_.size() != place.size()) {
-        scaled_ = QPixmap::fromImage(
-            ImageOver(shown_.picture).scaled(place.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        const QImage image = ImageOver(shown_.picture);
+        scaled_ =
+            QPixmap::fromImage(EnoughRows(image, place.height())
+                                   .scaled(place.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
     QPainter painter(this);
     UseDevicePixels(painter);
