@@ -82,8 +82,10 @@ ChainTable TableOf(std::span<const Alphas> columns) {
 std::vector<Columns> WaysAcross(const std::vector<Alphas>& alphas) {
     std::vector<std::optional<std::uint8_t>> limits;
     limits.reserve(alphas.size());
-    for (const Alphas& here : alphas)
-        limits.push_back(LimitOf(here));
+    for (std::size_t column = 0; column < alphas.size(); ++column) {
+        const bool asBefore = column > 0 && alphas[column] == alphas[column - 1];
+        limits.push_back(asBefore ? limits.back() : LimitOf(alphas[column]));
+    }
     std::vector<Columns> ways;
     for (std::size_t begin = 0; begin < alphas.size();) {
         const Way way = WayOf(limits[begin]);
