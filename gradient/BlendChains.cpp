@@ -53,11 +53,9 @@ inline std::uint8_t Moved(std::uint8_t was, std::uint8_t source, std::uint8_t di
     return was > source ? above : below;
 }
 
-// Blocks are moved into memory of their own, which vector code wants to be apart from what it reads.
-
 // A block through its chains; the factors of link k begin at factors[k * stride].
 MIRELLE_VERSIONS
-void BlendBlock(std::uint8_t* moved, const std::uint8_t* was, const std::uint8_t* from,
+void BlendBlock(std::uint8_t* to, const std::uint8_t* was, const std::uint8_t* from,
                 const std::int16_t* factors, std::size_t stride, std::size_t links) {
     std::array<std::int16_t, kBlock> distances;
     for (std::size_t i = 0; i < kBlock; ++i)
@@ -67,13 +65,14 @@ void BlendBlock(std::uint8_t* moved, const std::uint8_t* was, const std::uint8_t
         for (std::size_t i = 0; i < kBlock; ++i)
             distances[i] = static_cast<std::int16_t>(distances[i] - Step(distances[i], here[i]));
     }
+    MIRELLE_INDEPENDENT
     for (std::size_t i = 0; i < kBlock; ++i)
-        moved[i] = Moved(was[i], from[i], static_cast<std::uint8_t>(distances[i]));
+        to[i] = Moved(was[i], from[i], static_cast<std::uint8_t>(distances[i]));
 }
 
 // The same with one chain for all bytes.
 MIRELLE_VERSIONS
-void BlendBlockAlike(std::uint8_t* moved, const std::uint8_t* was, const std::uint8_t* from,
+void BlendBlockAlike(std::uint8_t* to, const std::uint8_t* was, const std::uint8_t* from,
                      const std::int16_t* factors, std::size_t links) {
     std::array<std::int16_t, kBlock> distances;
     for (std::size_t i = 0; i < kBlock; ++i)
@@ -83,36 +82,25 @@ void BlendBlockAlike(std::uint8_t* moved, const std::uint8_t* was, const std::ui
         for (std::size_t i = 0; i < kBlock; ++i)
             distances[i] = static_cast<std::int16_t>(distances[i] - Step(distances[i], factor));
     }
+    MIRELLE_INDEPENDENT
     for (std::size_t i = 0; i < kBlock; ++i)
-        moved[i] = Moved(was[i], from[i], static_cast<std::uint8_t>(distances[i]));
+        to[i] = Moved(was[i], from[i], static_cast<std::uint8_t>(distances[i]));
 }
 
-MIRELLE_VERSIONS
-void LimitBlock(std::uint8_t* moved, const std::uint8_t* was, const std::uint8_t* from,
-                const std::uint8_t* limits) {
-    for (std::size_t i = 0; i < kBlock; ++i) {
-        const std::uint8_t distance = Distance(was[i], from[i]);
-        moved[i] = Moved(was[i], from[i], std::min(distance, limits[i]));
-    }
-}
-
-// Runs work(moved, was, from, at) over all blocks of a run, `at` the first of the run's bytes; what does not
+// Runs work(to, was, from, at) over all blocks of a run, `at` the first of the run's bytes; what does not
 // fill the last one is done in a copy.
 template <class Work>
 void EachBlock(const BlendRun& run, const Work& work) {
-    Bytes moved;
     std::size_t at = 0;
-    for (; at + kBlock <= run.bytes; at += kBlock) {
-        work(moved.data(), run.was + at, run.from + at, at);
-        std::memcpy(run.to + at, moved.data(), kBlock);
-    }
+    for (; at + kBlock <= run.bytes; at += kBlock)
+        work(run.to + at, run.was + at, run.from + at, at);
     if (at == run.bytes) return;
-    Bytes lastWas{};
+    Bytes last{};
     Bytes lastFrom{};
-    std::memcpy(lastWas.data(), run.was + at, run.bytes - at);
+    std::memcpy(last.data(), run.was + at, run.bytes - at);
     std::memcpy(lastFrom.data(), run.from + at, run.bytes - at);
-    work(moved.data(), lastWas.data(), lastFrom.data(), at);
-    std::memcpy(run.to + at, moved.data(), run.bytes - at);
+    work(last.data(), last.data(), lastFrom.data(), at);
+    std::memcpy(run.to + at, last.data(), run.bytes - at);
 }
 
 } // namespace
@@ -125,8 +113,8 @@ void ChainTable::Set(std::size_t link, std::size_t byte, std::uint8_t alpha) {
 }
 
 void ChainTable::Blend(const BlendRun& run) const {
-    EachBlock(run, [this](auto* moved, auto* was, auto* from, std::size_t at) {
-        BlendBlock(moved, was, from, factors_.data() + at, stride_, links_);
+    EachBlock(run, [this](auto* to, auto* was, auto* from, std::size_t at) {
+        BlendBlock(to, was, from, factors_.data() + at, stride_, links_);
     });
 }
 
@@ -135,8 +123,8 @@ void BlendChain(const BlendRun& run, std::span<const std::uint8_t> alphas) {
     factors.reserve(alphas.size());
     for (const std::uint8_t alpha : alphas)
         factors.push_back(Factors()[alpha]);
-    EachBlock(run, [&](auto* moved, auto* was, auto* from, std::size_t) {
-        BlendBlockAlike(moved, was, from, factors.data(), factors.size());
+    EachBlock(run, [&](auto* to, auto* was, auto* from, std::size_t) {
+        BlendBlockAlike(to, was, from, factors.data(), factors.size());
     });
 }
 
@@ -152,23 +140,20 @@ std::optional<std::uint8_t> LimitOf(std::span<const std::uint8_t> alphas) {
     return limit;
 }
 
+MIRELLE_VERSIONS
 void LimitDistances(const BlendRun& run, const std::uint8_t* limits) {
-    EachBlock(run, [&](auto* moved, auto* was, auto* from, std::size_t at) {
-        // The limits of the last one may be fewer than a block.
-        const std::size_t left = run.bytes - at;
-        if (left >= kBlock) return LimitBlock(moved, was, from, limits + at);
-        Bytes lastLimits{};
-        std::memcpy(lastLimits.data(), limits + at, left);
-        LimitBlock(moved, was, from, lastLimits.data());
-    });
+    const auto [to, was, from, bytes] = run;
+    MIRELLE_INDEPENDENT
+    for (std::size_t i = 0; i < bytes; ++i)
+        to[i] = Moved(was[i], from[i], std::min(Distance(was[i], from[i]), limits[i]));
 }
 
+MIRELLE_VERSIONS
 void LimitDistances(const BlendRun& run, std::uint8_t limit) {
-    Bytes limits;
-    limits.fill(limit);
-    EachBlock(run, [&](auto* moved, auto* was, auto* from, std::size_t) {
-        LimitBlock(moved, was, from, limits.data());
-    });
+    const auto [to, was, from, bytes] = run;
+    MIRELLE_INDEPENDENT
+    for (std::size_t i = 0; i < bytes; ++i)
+        to[i] = Moved(was[i], from[i], std::min(Distance(was[i], from[i]), limit));
 }
 
 } // namespace mirelle
