@@ -3,6 +3,7 @@
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <QPalette>
+#include <QStringList>
 #include <QWidget>
 
 #include "desktop/look/Tokens.h"
@@ -18,7 +19,10 @@ QFont BodyFont() {
         const QStringList families = QFontDatabase::applicationFontFamilies(id);
         if (!families.isEmpty()) font.setFamily(families.front());
     }
-    font.setStyleHint(QFont::SansSerif); // for a system that names a family which it lacks
+#ifdef Q_OS_WIN
+    // Some systems name a family that only stands for another one, and Qt would take any in its place.
+    font.setFamilies(QStringList{font.family(), "Segoe UI", "Tahoma", "DejaVu Sans", "Arial"});
+#endif
     font.setPixelSize(kTypeSize);
     return font;
 }
