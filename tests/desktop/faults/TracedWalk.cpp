@@ -65,8 +65,8 @@ int main(int count, char** arguments) {
     }
     const std::string folder = arguments[5];
     try {
-        const Console console("Ruby Console", folder, kConsole);
-        Road road(arguments[1], arguments[2]);
+        const Console console(folder, RubyConsole("Ruby Console", kConsole));
+        Road road(OwnProgram(arguments[1], arguments[2]));
         try {
             Walk(road, console, arguments[3], arguments[4], folder);
         } catch (const std::exception&) {
