@@ -44,8 +44,6 @@ void ColorDialogs::Click(int index) {
         return SwitchGradientFX();
     case kGradient:
         return PickGradientColor();
-    default:
-        return;
     }
 }
 

@@ -1,6 +1,10 @@
-// Runs the encoder while memory runs out, at each place where it asks for some. In a program of its own,
-// because it replaces the allocation of the whole program.
+// Runs the encoder while memory runs out, at each place where it asks for some, and what makes the other
+// files. In a program of its own, because it replaces the allocation of the whole program.
+#include "codecs/BmpWriter.h"
 #include "codecs/cJPEG.h"
+#include "codecs/tiff/ByteArray.h"
+#include "codecs/TiffWriter.h"
+#include "tests/support/ErrorOf.h"
 #include "tests/support/MemoryFileSystem.h"
 #include "tests/support/Patterns.h"
 
@@ -142,6 +146,19 @@ INSTANTIATE_TEST_SUITE_P(Ways, JpegMemoryTest,
                                            Way{"SurfaceForThreadsOneFailure", 640, 400, true, true},
                                            Way{"ArrayForThreadsOneFailure", 640, 400, false, true}),
                          [](const auto& way) { return way.param.name; });
+
+TEST(FilesMemoryTest, FilesAndArraysWithoutRoomAreTold) {
+    const Bitmap bitmap(8, 8);
+    tiff::ByteArray array;
+    const auto errorOf = [](const auto& make) {
+        const MemoryFor memory(0, false);
+        return ErrorOf(make);
+    };
+    EXPECT_EQ(errorOf([&] { (void)BmpFile(bitmap); }), ErrorNumber::OutOfMemory);
+    EXPECT_EQ(errorOf([&] { (void)TiffFile(bitmap); }), ErrorNumber::OutOfMemory);
+    EXPECT_EQ(errorOf([&] { tiff::Resize(array, 100); }), ErrorNumber::OutOfMemory);
+    EXPECT_TRUE(array.empty());
+}
 
 } // namespace
 } // namespace mirelle::test

@@ -112,5 +112,14 @@ TEST(AlphaBlend, WhatHoldsNoPixelDrawsNothing) {
     EXPECT_EQ(drawn.At(3, 3), source.At(3, 3));
 }
 
+TEST(AlphaBlend, AStretchedAreaLeavesWhatLiesBesideTheSource) {
+    Bitmap source(4, 1, Pixel{10, 20, 30, 0});
+    const Pixel before{1, 2, 3, 0};
+    Bitmap drawn(24, 1, before);
+    AlphaBlend(drawn, {0, 0, 24, 1}, source, {-4, 0, 12, 1}, 255);
+    for (int x = 0; x < 24; ++x)
+        EXPECT_EQ(drawn.At(x, 0), x >= 8 && x < 16 ? source.At(0, 0) : before) << x;
+}
+
 } // namespace
 } // namespace mirelle::test

@@ -65,5 +65,13 @@ TEST(ToLong, RaisesOverflowBeyondItsRangeAfterRounding) {
     }
 }
 
+TEST(ToSingle, RaisesOverflowBeyondItsRange) {
+    constexpr double kMost = std::numeric_limits<float>::max();
+    EXPECT_EQ(ToSingle(kMost), std::numeric_limits<float>::max());
+    EXPECT_EQ(ToSingle(-kMost), std::numeric_limits<float>::lowest());
+    for (const double beyond : {1e39, -1e39, kInfinity})
+        EXPECT_EQ(ErrorOf([=] { ToSingle(beyond); }), ErrorNumber::Overflow) << beyond;
+}
+
 } // namespace
 } // namespace mirelle

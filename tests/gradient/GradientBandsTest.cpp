@@ -143,6 +143,21 @@ TEST(DrawBands, GivesTheBytesOfTheBandsDrawnOneByOne) {
     }
 }
 
+TEST(DrawBands, GivesThemToWhereManyFaintBandsLieOverOneAnother) {
+    std::mt19937 random(4);
+    const Bitmap canvas = Noise(random, 40, 30);
+    const Bitmap source = Noise(random, 40, 30);
+    // A blend of alpha 1 moves a byte by one where 128 and more are missing, and stops there.
+    for (const PixelArea area : {PixelArea{5, 0, 20, 30}, PixelArea{0, 5, 40, 20}}) {
+        const std::vector<Band> bands(130, Band{area, area, 1});
+        Bitmap plain = canvas, fast = canvas;
+        DrawBandsPlain(plain, source, bands);
+        DrawBands(fast, source, bands);
+        ASSERT_NE(plain, canvas);
+        EXPECT_EQ(fast, plain);
+    }
+}
+
 TEST(DrawBands, AFadeOf256ColumnsEndsInTheForeground) {
     const Bitmap source(256, 2, Pixel{200, 100, 0, 0});
     Bitmap drawn(256, 2, Pixel{0, 0, 100, 0});
