@@ -73,7 +73,8 @@ void Table::PrintHead() const {
     std::printf(
         "Ours and what stands beside it take turns. The least wall time of each counts, and the ratio is "
         "that of the least times.\n"
-        "One core: all threads of the program are kept on one core, unless a row says both cores.\n\n");
+        "All threads of the program are kept on one core, but where a row says all cores, and for what a "
+        "window shows, for starts and for keys.\n\n");
     PrintRow("measure", "ours", "beside", "its time", "ratio", "aim", "");
 }
 
