@@ -16,6 +16,7 @@
 #include <fstream>
 #include <iterator>
 #include <ostream>
+#include <regex>
 #include <set>
 
 namespace mirelle::starter {
@@ -145,7 +146,7 @@ TEST(StarterLibrary, PrefixFileBeginsWithTheBuiltInPrefixesAndAddsSome) {
         EXPECT_EQ(lines[row], kPrefixes[row].prefix);
     EXPECT_EQ(std::set<std::string>(lines.begin(), lines.end()).size(), lines.size());
     for (const std::string& line : lines)
-        EXPECT_THAT(line, ::testing::MatchesRegex("[A-Z][A-Za-z]+_"));
+        EXPECT_TRUE(std::regex_match(line, std::regex("[A-Z][A-Za-z]+_"))) << line;
 }
 
 TEST(StarterLibrary, IsWhatTheProgramStartsWith) {
