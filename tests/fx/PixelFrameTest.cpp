@@ -25,6 +25,17 @@ TEST(PixelFrameTest, TheRecordTellsOf32BitsAPixelInOnePlane) {
     EXPECT_EQ(record.bmBits, 0);
 }
 
+TEST(PixelFrameTest, ARecordThatNobodyFilledIsAllZeros) {
+    const BitmapRecord record;
+    EXPECT_EQ(record.bmType, 0);
+    EXPECT_EQ(record.bmWidth, 0);
+    EXPECT_EQ(record.bmHeight, 0);
+    EXPECT_EQ(record.bmWidthBytes, 0);
+    EXPECT_EQ(record.bmPlanes, 0);
+    EXPECT_EQ(record.bmBitsPixel, 0);
+    EXPECT_EQ(record.bmBits, 0);
+}
+
 TEST(PixelFrameTest, SizingMakesAnArrayOfZerosWithTheBoundsOfThePicture) {
     PixelFrame frame = FrameFor(3, 2);
     EXPECT_EQ(frame.bytes.At(3, 2, 1), 0);
