@@ -51,7 +51,12 @@ std::vector<std::uint8_t> BytesOf(HANDLE handle) {
 HANDLE MemoryWith(std::span<const std::uint8_t> bytes) {
     const HGLOBAL handle = GlobalAlloc(GMEM_MOVEABLE, bytes.size());
     if (handle == nullptr) throw RunTimeError(ErrorNumber::OutOfMemory);
-    std::memcpy(GlobalLock(handle), bytes.data(), bytes.size());
+    void* const memory = GlobalLock(handle);
+    if (memory == nullptr) {
+        GlobalFree(handle);
+        throw RunTimeError(ErrorNumber::OutOfMemory);
+    }
+    std::memcpy(memory, bytes.data(), bytes.size());
     GlobalUnlock(handle);
     return handle;
 }
@@ -95,8 +100,7 @@ void WindowsClipboard::Clear() {
 void WindowsClipboard::SetData(const Picture& bitmap) {
     if (bitmap.IsEmpty()) return Clear();
     const std::vector<std::uint8_t> file = BmpFile(bitmap.Pixels());
-    Put(CF_DIB, std::span(file).subspan(kFileHeader));
-    if (IsClipboardFormatAvailable(CF_DIB) != 0) fetched_ = {GetClipboardSequenceNumber(), bitmap};
+    if (Put(CF_DIB, std::span(file).subspan(kFileHeader))) fetched_ = {GetClipboardSequenceNumber(), bitmap};
 }
 
 void WindowsClipboard::SetText(const std::string& text) {
@@ -105,13 +109,14 @@ void WindowsClipboard::SetText(const std::string& text) {
     Put(CF_UNICODETEXT, {bytes, (wide.size() + 1) * sizeof(wchar_t)}); // with its end
 }
 
-void WindowsClipboard::Put(unsigned format, std::span<const std::uint8_t> bytes) {
+bool WindowsClipboard::Put(unsigned format, std::span<const std::uint8_t> bytes) {
     fetched_.reset();
     const HANDLE memory = bytes.empty() ? nullptr : MemoryWith(bytes);
     const OpenedClipboard clipboard(static_cast<HWND>(owner_));
     const bool taken = clipboard.IsOpen() && EmptyClipboard() != 0 &&
                        (memory == nullptr || SetClipboardData(format, memory) != nullptr);
     if (!taken && memory != nullptr) GlobalFree(memory);
+    return taken;
 }
 
 } // namespace mirelle

@@ -23,9 +23,9 @@ public:
     void SetText(const std::string& text) override;
 
 private:
-    // Replaces whatever is there; nothing stays where the bytes are none. A clipboard that another program
-    // does not let go of keeps what it has.
-    void Put(unsigned format, std::span<const std::uint8_t> bytes);
+    // Replaces whatever is there; nothing stays where the bytes are none. Whether it has: a clipboard that
+    // another program does not let go of keeps what it holds.
+    bool Put(unsigned format, std::span<const std::uint8_t> bytes);
 
     struct Fetched {
         unsigned state; // of the clipboard, a number that every change counts up
