@@ -25,7 +25,8 @@ using SymbolCounts = std::array<std::uint32_t, 256>;
 class AcSymbolStore {
 public:
     // The symbols of a block: 64 values in zig-zag order, all above -32768, and a bit for each that is not 0.
-    // They stay where they are as long as the store, or the one that it is joined to. Throws std::bad_alloc.
+    // They stay where they are as long as the store, or the one that it is joined to. Where the memory can't
+    // be had it raises error 7 or throws std::bad_alloc.
     std::span<const AcSymbol> Add(const std::int16_t* values, std::uint64_t nonZero);
 
     // Takes over all that the other holds.
