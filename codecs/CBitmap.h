@@ -2,7 +2,8 @@
 // and from there into a picture box.
 //
 // The tables and headers, and the one bitmap that waits, stay from one call to the next: a table is set, a
-// bitmap made, the bitmap drawn. Nothing is raised by any of these: a statement that fails is passed over.
+// bitmap made, the bitmap drawn. They live as long as the object, which whoever shows a picture makes anew.
+// Nothing is raised by any of these: a statement that fails is passed over.
 #pragma once
 
 #include "forms/Picture.h"

@@ -14,11 +14,15 @@ constexpr std::int64_t kGreatestPixelCount = std::int64_t{1} << 28;
 constexpr std::int64_t kGreatestPixelCount = std::int64_t{1} << 20; // a fuzzer has time for many small ones
 #endif
 
+// Of sides that are not positive no picture is too large.
+inline bool IsTooLarge(std::int64_t width, std::int64_t height, std::int64_t most = kGreatestPixelCount) {
+    return width > 0 && height > 0 && (width > most || height > most / width);
+}
+
 // Raises 481 where one of the sides is not positive, 7 where the picture is too large.
 inline void CheckPictureSize(std::int64_t width, std::int64_t height) {
     if (width <= 0 || height <= 0) throw RunTimeError(ErrorNumber::InvalidPicture);
-    if (width > kGreatestPixelCount || height > kGreatestPixelCount / width)
-        throw RunTimeError(ErrorNumber::OutOfMemory);
+    if (IsTooLarge(width, height)) throw RunTimeError(ErrorNumber::OutOfMemory);
 }
 
 } // namespace mirelle

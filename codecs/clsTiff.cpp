@@ -2,11 +2,13 @@
 
 #include "codecs/CBitmap.h"
 #include "codecs/tiff/BinaryFile.h"
+#include "codecs/tiff/ColorMap.h"
 #include "codecs/tiff/LongArray.h"
 #include "codecs/tiff/PackBits.h"
 #include "codecs/tiff/PadAndFlipRows.h"
 #include "codecs/tiff/SwapBytes.h"
 #include "forms/Numbers.h"
+#include "forms/OutOfMemory.h"
 #include "forms/RunTimeError.h"
 
 #include <algorithm>
@@ -88,6 +90,10 @@ const clsTiff::TagRow clsTiff::kTags[] = {
 
 void clsTiff::LoadTIFF(const std::string& FileName) {
     picSmall_.Picture = Picture();
+    WithinMemory([&] { ReadAndShow(FileName); });
+}
+
+void clsTiff::ReadAndShow(const std::string& FileName) {
     const std::vector<std::uint8_t> bytes = files_.ReadFile(FileName);
     tiff::BinaryFile file(bytes);
     const std::optional<FileHeader> header = ReadHeader(file);
@@ -166,27 +172,9 @@ void clsTiff::TakeStripByteCounts(Load& load, const Entry& entry) {
                                                                     entry.count, load.header.isBigEndian);
 }
 
-// The map holds all reds, then all greens, then all blues, 16 bits each. Read from its second byte on, the
-// low byte of each number is the high byte of an entry.
 void clsTiff::TakeColorMap(Load& load, const Entry& entry) {
     HasColorMap = CBitmap::kTrue;
-    load.Palette.clear();
-    tiff::Resize(load.Palette, entry.count, longestArray_);
-    const auto entries = static_cast<std::int64_t>(ToLong(entry.count / 3.0 - 1)) + 1;
-    tiff::ByteArray reds, greens, blues;
-    for (tiff::ByteArray* channel : {&reds, &greens, &blues})
-        tiff::Resize(*channel, entries, longestArray_);
-    load.file.Seek(std::int64_t{entry.value} + 2);
-    for (tiff::ByteArray* channel : {&reds, &greens, &blues}) {
-        for (std::uint8_t& low : *channel)
-            low = static_cast<std::uint8_t>(load.file.Int16() & 0xFF);
-    }
-    for (std::size_t i = 0; i < reds.size(); ++i) {
-        if (3 * i + 2 >= load.Palette.size()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-        load.Palette[3 * i] = reds[i];
-        load.Palette[3 * i + 1] = greens[i];
-        load.Palette[3 * i + 2] = blues[i];
-    }
+    load.Palette = tiff::ReadColorMap(load.file, entry.value, entry.count, limits_.longestArray);
 }
 
 void clsTiff::FindBitsPerPixel() {
@@ -201,23 +189,30 @@ void clsTiff::FindBitsPerPixel() {
 
 void clsTiff::ReadStrips(Load& load) const {
     if (load.StripOffsets.UpperBound() != load.StripByteCounts.UpperBound()) return;
-    tiff::Resize(load.Image, 1, longestArray_);
+    tiff::Resize(load.Image, 1, limits_.longestArray);
+    tiff::NoOperations noOperations(load.file.Bytes());
     std::int64_t position = 0;
     Long rowsLeft = Height;
     for (std::int32_t i = 0; i <= load.StripOffsets.UpperBound(); ++i) {
-        tiff::ByteArray strip;
-        tiff::Resize(strip, load.StripByteCounts[i], longestArray_);
-        load.file.Seek(std::int64_t{load.StripOffsets[i]} + 1);
-        load.file.Fill(strip);
+        const tiff::StripPlace place{load.StripOffsets[i], load.StripByteCounts[i]};
+        tiff::CheckLength(place.length, limits_.longestArray);
+        load.file.Seek(place.offset + 1);
         if (CompressionValue == kPackBits) {
             const bool isFull = rowsLeft > RowsPerStrip;
-            tiff::DecodePackBits(strip, 8, isFull ? RowsPerStrip : rowsLeft.Value(), Width, longestArray_);
+            const tiff::ByteArray strip =
+                tiff::DecodePackBits(noOperations, place, 8, isFull ? RowsPerStrip : rowsLeft.Value(), Width,
+                                     limits_.longestArray);
             rowsLeft = isFull ? rowsLeft - Long(RowsPerStrip) : Long(0);
+            const std::int64_t end = position + tiff::UpperBound(strip) + 1;
+            tiff::Resize(load.Image, end, limits_.longestArray);
+            std::ranges::copy(strip, load.Image.begin() + position);
+            position = end;
+        } else {
+            const std::int64_t end = position + place.length;
+            tiff::Resize(load.Image, end, limits_.longestArray);
+            load.file.Fill(std::span(load.Image).subspan(static_cast<std::size_t>(position)));
+            position = end;
         }
-        const std::int64_t length = tiff::UpperBound(strip) + 1;
-        tiff::Resize(load.Image, position + length, longestArray_);
-        std::ranges::copy(strip, load.Image.begin() + position);
-        position += length;
     }
 }
 
@@ -226,10 +221,10 @@ void clsTiff::Show(Load& load) {
     CBitmap bitmap(picSmall_);
     if (BitsPerPixelValue == 24) {
         SwapRedAndBlue(load.Image);
-        tiff::PadAndFlipRows(load.Image, Height, Long(Width) * Long(3), longestArray_);
+        tiff::PadAndFlipRows(load.Image, Height, Long(Width) * Long(3), limits_.longestArray);
         bitmap.CreateTrueColorDIB(std::move(load.Image), Width, Height, CBitmap::kFalse, CBitmap::k24Bits);
     } else if (BitsPerPixelValue == 8) {
-        tiff::PadAndFlipRows(load.Image, Height, Width, longestArray_);
+        tiff::PadAndFlipRows(load.Image, Height, Width, limits_.longestArray);
         if (HasColorMap != 0) {
             bitmap.SetPaletteFromBytes(load.Palette);
         } else {
@@ -237,12 +232,16 @@ void clsTiff::Show(Load& load) {
         }
         bitmap.CreatePaletteDIB(load.Image, Width, Height, CBitmap::kFalse, 1);
     } else if (BitsPerPixelValue == 1) {
-        tiff::PadAndFlipRows(load.Image, Height, BytesPerRow(), longestArray_);
+        tiff::PadAndFlipRows(load.Image, Height, BytesPerRow(), limits_.longestArray);
         bitmap.SetMonoPalette(Photometric);
         bitmap.CreateMonoDIB(load.Image, Width, Height, CBitmap::kFalse, 0);
     } else {
         return;
     }
+    // A picture that is too large, or has no room in memory, leaves the box as it is: it would show a blank.
+    const bool isPicture = Width > 0 && Height > 0;
+    if (isPicture && (bitmap.BitmapHandle.IsEmpty() || IsTooLarge(Width, Height, limits_.mostPixels)))
+        throw RunTimeError(ErrorNumber::OutOfMemory);
     std::int32_t width = Width;
     std::int32_t height = Height;
     bitmap.DrawBitmapToPicture(width, height, picSmall_, CBitmap::kTrue, 0, 0, CBitmap::kFalse);

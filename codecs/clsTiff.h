@@ -7,8 +7,12 @@
 // no part but with 1 bit, PackBits strips come out with a byte for each pixel.
 //
 // Every load leaves the strips, unpacked, in the file system's dump file.
+//
+// A load takes time and memory for the bytes of its file and for those that its strips come out with, and for
+// nothing that a file merely claims, or tells again and again.
 #pragma once
 
+#include "codecs/PictureLimits.h"
 #include "codecs/tiff/ByteArray.h"
 #include "forms/PictureBox.h"
 #include "forms/ports/FileSystem.h"
@@ -18,16 +22,22 @@
 
 namespace mirelle {
 
+// What a load is held to, whatever the file claims.
+struct TiffLimits {
+    std::int64_t longestArray = tiff::kLongestArray; // in bytes
+    std::int64_t mostPixels = kGreatestPixelCount;   // of a picture that is shown
+};
+
 class clsTiff {
 public:
-    // No array of a load becomes longer than `longestArray` bytes.
-    clsTiff(PictureBox& picSmall, FileSystem& files, std::int64_t longestArray = tiff::kLongestArray)
-        : picSmall_(picSmall), files_(files), longestArray_(longestArray) {}
+    clsTiff(PictureBox& picSmall, FileSystem& files, TiffLimits limits = {})
+        : picSmall_(picSmall), files_(files), limits_(limits) {}
 
     // Clears the Material Image, reads the file and draws what it can. A file that is no TIFF, or of a
     // compression or depth that is not read, ends it silently. Raises what reading the file and writing the
     // dump raise, 9 for arrays without elements and images shorter than their rows, 6 for numbers that leave
-    // their range, 7 for arrays that are too long, 63 for a place ahead of the file's start.
+    // their range, 7 for arrays that are too long, for a picture that is too large (the Material Image keeps
+    // its size then) and where the memory can't be had, 63 for a place ahead of the file's start.
     void LoadTIFF(const std::string& FileName);
 
     static void SwapBytesLong(std::int32_t& value);
@@ -47,6 +57,7 @@ private:
     };
     static const TagRow kTags[];
 
+    void ReadAndShow(const std::string& FileName);
     void ReadDirectory(Load& load);
     void TakeWidth(Load& load, const Entry& entry);
     void TakeHeight(Load& load, const Entry& entry);
@@ -75,7 +86,7 @@ private:
 
     PictureBox& picSmall_;
     FileSystem& files_;
-    std::int64_t longestArray_;
+    TiffLimits limits_;
 };
 
 } // namespace mirelle

@@ -14,9 +14,9 @@ void BinaryFile::Seek(std::int64_t position) {
 }
 
 std::uint8_t BinaryFile::Byte() {
-    const std::uint8_t byte = BytesLeft() > 0 ? bytes_[static_cast<std::size_t>(next_)] : std::uint8_t{0};
+    const std::span<const std::uint8_t> rest = Rest();
     ++next_;
-    return byte;
+    return rest.empty() ? std::uint8_t{0} : rest.front();
 }
 
 std::int16_t BinaryFile::Int16() {
@@ -32,16 +32,15 @@ std::int32_t BinaryFile::Int32() {
 }
 
 void BinaryFile::Fill(std::span<std::uint8_t> bytes) {
-    const auto present = static_cast<std::size_t>(
-        std::min<std::int64_t>(static_cast<std::int64_t>(bytes.size()), BytesLeft()));
-    if (present > 0)
-        std::ranges::copy(bytes_.subspan(static_cast<std::size_t>(next_), present), bytes.begin());
+    const std::span<const std::uint8_t> rest = Rest();
+    const std::size_t present = std::min(bytes.size(), rest.size());
+    std::ranges::copy(rest.first(present), bytes.begin());
     std::ranges::fill(bytes.subspan(present), std::uint8_t{0});
     next_ += static_cast<std::int64_t>(bytes.size());
 }
 
-std::int64_t BinaryFile::BytesLeft() const {
-    return std::max<std::int64_t>(0, static_cast<std::int64_t>(bytes_.size()) - next_);
+std::span<const std::uint8_t> BinaryFile::Rest() const {
+    return bytes_.subspan(std::min(bytes_.size(), static_cast<std::size_t>(next_)));
 }
 
 } // namespace mirelle::tiff

@@ -20,8 +20,9 @@ public:
     std::int32_t Int32();
     void Fill(std::span<std::uint8_t> bytes);
 
-    // How many bytes stand from the next read's place to the end.
-    std::int64_t BytesLeft() const;
+    // The whole file, and what stands from the next read's place to its end.
+    std::span<const std::uint8_t> Bytes() const { return bytes_; }
+    std::span<const std::uint8_t> Rest() const;
 
 private:
     std::span<const std::uint8_t> bytes_;

@@ -1,19 +1,17 @@
 #include "codecs/tiff/ByteArray.h"
 
-#include "forms/RunTimeError.h"
-
-#include <new>
+#include "forms/OutOfMemory.h"
 
 namespace mirelle::tiff {
 
-void Resize(ByteArray& array, std::int64_t count, std::int64_t longest) {
+void CheckLength(std::int64_t count, std::int64_t longest) {
     if (count < 1) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     if (count > longest) throw RunTimeError(ErrorNumber::OutOfMemory);
-    try {
-        array.resize(static_cast<std::size_t>(count));
-    } catch (const std::bad_alloc&) {
-        throw RunTimeError(ErrorNumber::OutOfMemory);
-    }
+}
+
+void Resize(ByteArray& array, std::int64_t count, std::int64_t longest) {
+    CheckLength(count, longest);
+    WithinMemory([&] { array.resize(static_cast<std::size_t>(count)); });
 }
 
 std::int64_t UpperBound(const ByteArray& array) {

@@ -16,8 +16,11 @@ using ByteArray = std::vector<std::uint8_t>;
 // program of 32 bits runs.
 constexpr std::int64_t kLongestArray = std::int64_t{1} << 29;
 
-// Gives the array `count` elements; present ones stay, new ones are 0. Raises 9 for a count below 1, 7 for
-// one above `longest` or where the memory can't be had.
+// Raises 9 for a number of elements below 1, 7 for one above `longest`.
+void CheckLength(std::int64_t count, std::int64_t longest = kLongestArray);
+
+// Gives the array `count` elements; present ones stay, new ones are 0. Raises what CheckLength raises, 7 also
+// where the memory can't be had.
 void Resize(ByteArray& array, std::int64_t count, std::int64_t longest = kLongestArray);
 
 // The index of the last element. Raises 9 where the array was never sized.

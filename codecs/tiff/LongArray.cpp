@@ -3,36 +3,29 @@
 #include "codecs/tiff/SwapBytes.h"
 #include "forms/RunTimeError.h"
 
-#include <algorithm>
-
 namespace mirelle::tiff {
 namespace {
 
 constexpr std::int32_t kMostElements = 1 << 28;
+constexpr std::int64_t kElementSize = 4;
 
 } // namespace
 
 LongArray LongArray::Of(std::int32_t value) {
     LongArray array;
     array.count_ = 1;
-    array.present_ = {value};
+    array.onlyElement_ = value;
     return array;
 }
 
 LongArray LongArray::From(BinaryFile& file, std::int64_t position, std::int32_t count, bool swapped) {
     if (count < 1) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     if (count > kMostElements) throw RunTimeError(ErrorNumber::OutOfMemory);
+    file.Seek(position);
     LongArray array;
     array.count_ = count;
-    file.Seek(position);
-    // The last of them may lie half beyond the file's end.
-    const auto inFile = std::min<std::int64_t>(count, (file.BytesLeft() + 3) / 4);
-    array.present_.reserve(static_cast<std::size_t>(inFile));
-    for (std::int64_t i = 0; i < inFile; ++i) {
-        std::int32_t value = file.Int32();
-        if (swapped) SwapBytesLong(value);
-        array.present_.push_back(value);
-    }
+    array.bytes_ = file.Rest();
+    array.swapped_ = swapped;
     return array;
 }
 
@@ -42,8 +35,12 @@ std::int32_t LongArray::UpperBound() const {
 }
 
 std::int32_t LongArray::operator[](std::int32_t index) const {
-    const auto at = static_cast<std::size_t>(index);
-    return at < present_.size() ? present_[at] : 0;
+    if (onlyElement_) return *onlyElement_;
+    BinaryFile elements(bytes_);
+    elements.Seek(kElementSize * index + 1);
+    std::int32_t value = elements.Int32();
+    if (swapped_) SwapBytesLong(value);
+    return value;
 }
 
 } // namespace mirelle::tiff

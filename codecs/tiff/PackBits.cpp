@@ -8,13 +8,14 @@
 namespace mirelle::tiff {
 namespace {
 
-constexpr int kNoOperation = 128;
+std::int64_t LengthOf(std::span<const std::uint8_t> bytes) {
+    return static_cast<std::int64_t>(bytes.size());
+}
 
 // Copies `count` bytes as far as they exist on both sides.
-void CopyBytes(const ByteArray& from, std::int64_t source, ByteArray& to, std::int64_t target,
+void CopyBytes(std::span<const std::uint8_t> from, std::int64_t source, ByteArray& to, std::int64_t target,
                std::int64_t count) {
-    const std::int64_t length = std::min({count, static_cast<std::int64_t>(from.size()) - source,
-                                          static_cast<std::int64_t>(to.size()) - target});
+    const std::int64_t length = std::min({count, LengthOf(from) - source, LengthOf(to) - target});
     if (length > 0) std::copy_n(from.begin() + source, length, to.begin() + target);
 }
 
@@ -27,41 +28,40 @@ std::int64_t SizeOf(std::int32_t rows, std::int32_t width, std::int32_t unit) {
 
 } // namespace
 
-void DecodePackBits(ByteArray& strip, int bits, std::int32_t rows, std::int32_t width, std::int64_t longest) {
+ByteArray DecodePackBits(NoOperations& file, StripPlace strip, int bits, std::int32_t rows,
+                         std::int32_t width, std::int64_t longest) {
     const std::int32_t unit = bits / 8;
     const std::int64_t size = SizeOf(rows, width, unit);
     ByteArray output;
     ResumeNext([&] { Resize(output, size + 1, longest); });
-    std::int64_t src = 0;
+    // Behind the file's end stand zeros, which are literals of a zero and change nothing.
+    const std::int64_t end = std::min(strip.offset + strip.length, LengthOf(file.Bytes()));
+    const std::span<const std::uint8_t> bytes = file.Bytes().first(static_cast<std::size_t>(end));
+    std::int64_t src = strip.offset;
     std::int64_t dst = 0;
-    // Both keep their values from one code to the next: a no-op code uses them as they were left.
-    std::int64_t n = 0;
-    bool run = false;
-    while (dst < size && src < static_cast<std::int64_t>(strip.size())) {
-        const int code = strip[static_cast<std::size_t>(src)];
-        std::int64_t literal = 0;
+    // A no-op moves on as the run ahead of it did, or by twice the literal ahead of it and a byte.
+    std::int64_t noOperationStep = 1;
+    while (dst < size && src < end) {
+        const int code = bytes[static_cast<std::size_t>(src)];
         if (code > kNoOperation) {
-            n = 257 - code;
-            for (std::int64_t i = 0; i < n; ++i, dst += unit)
-                CopyBytes(strip, src + 1, output, dst, unit);
-            run = true;
-        } else if (code < kNoOperation) {
-            n = code + 1;
-            literal = n * unit;
-            CopyBytes(strip, src + 1, output, dst, literal);
-            dst += literal;
-            run = false;
-        }
-        if (run) {
+            const int n = 257 - code;
+            for (int i = 0; i < n; ++i, dst += unit)
+                CopyBytes(bytes, src + 1, output, dst, unit);
             src += unit + 1;
-            n = n * unit + 1 + literal;
+            noOperationStep = unit + 1;
+        } else if (code < kNoOperation) {
+            const std::int64_t n = code + 1;
+            const std::int64_t literal = n * unit;
+            CopyBytes(bytes, src + 1, output, dst, literal);
+            dst += literal;
+            src += literal + 1;
+            noOperationStep = (n + literal) * unit + 1;
         } else {
-            src += n * unit + 1;
-            n += literal;
+            src = file.EndOf(src, noOperationStep);
         }
     }
     ResumeNext([&] { Resize(output, size, longest); });
-    strip = std::move(output);
+    return output;
 }
 
 } // namespace mirelle::tiff

@@ -8,12 +8,12 @@
 namespace mirelle::tiff {
 
 void PadAndFlipRows(ByteArray& image, std::int32_t rows, std::int32_t rowBytes, std::int64_t longest) {
-    if (rows < 1 || rowBytes < 1) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-    const std::int32_t padding = (4 - rowBytes % 4) % 4;
+    // To the next multiple of four above, for negative lengths too.
+    const auto padding = static_cast<std::int32_t>(-static_cast<std::uint32_t>(rowBytes) % 4);
     const std::int32_t paddedLength = Long(rowBytes) + Long(padding);
     ByteArray flipped;
     Resize(flipped, Long(paddedLength) * Long(rows), longest);
-    if (std::int64_t{rows} * rowBytes > static_cast<std::int64_t>(image.size()))
+    if (rows > 0 && std::int64_t{rows} * rowBytes > static_cast<std::int64_t>(image.size()))
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     for (std::int64_t row = 0; row < rows; ++row)
         std::copy_n(image.begin() + (rows - 1 - row) * rowBytes, rowBytes,

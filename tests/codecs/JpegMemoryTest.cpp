@@ -1,79 +1,22 @@
 // Runs the encoder while memory runs out, at each place where it asks for some, and what makes the other
-// files. In a program of its own, because it replaces the allocation of the whole program.
+// files.
 #include "codecs/BmpWriter.h"
 #include "codecs/cJPEG.h"
 #include "codecs/tiff/ByteArray.h"
 #include "codecs/TiffWriter.h"
+#include "tests/codecs/ScarceMemory.h"
 #include "tests/support/ErrorOf.h"
 #include "tests/support/MemoryFileSystem.h"
 #include "tests/support/Patterns.h"
 
-#include <atomic>
-#include <cstdlib>
-#include <new>
 #include <optional>
 
 #include <gtest/gtest.h>
-
-namespace {
-
-constexpr long kPlenty = -1;
-
-std::atomic<long> allocationsLeft = kPlenty;
-std::atomic<bool> failed = false;
-std::atomic<bool> failsOnce = false;
-
-// Whether this allocation is one that has to fail.
-bool IsRefused() {
-    if (allocationsLeft.load() == kPlenty) return false;
-    long left = allocationsLeft.load();
-    while (left > 0 && !allocationsLeft.compare_exchange_weak(left, left - 1)) {
-    }
-    if (left > 0 || (failsOnce && failed.exchange(true))) return false;
-    failed = true;
-    return true;
-}
-
-} // namespace
-
-void* operator new(std::size_t size) {
-    void* memory = IsRefused() ? nullptr : std::malloc(size == 0 ? 1 : size);
-    if (memory == nullptr) throw std::bad_alloc();
-    return memory;
-}
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
-void* operator new[](std::size_t size) {
-    return operator new(size);
-}
-void operator delete[](void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
 
 namespace mirelle::test {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
-
-// Memory for so many allocations more while it lives.
-class MemoryFor {
-public:
-    MemoryFor(long allocations, bool once) {
-        failed = false;
-        failsOnce = once;
-        allocationsLeft = allocations;
-    }
-    ~MemoryFor() { allocationsLeft = kPlenty; }
-    MemoryFor(const MemoryFor&) = delete;
-    MemoryFor& operator=(const MemoryFor&) = delete;
-};
 
 // Holds what is written; the room for it is there before memory runs out.
 class KeepingFileSystem : public MemoryFileSystem {
@@ -90,7 +33,7 @@ struct Way {
     const char* name;
     int width, height;
     bool surface; // or an array
-    bool once;    // only one allocation fails, or all from there on
+    Scarcity scarcity;
 };
 
 class JpegMemoryTest : public ::testing::TestWithParam<Way> {
@@ -125,7 +68,7 @@ TEST_P(JpegMemoryTest, EveryAllocationThatFailsIsToldOrDoneWithout) {
     for (long allocations = 0;; ++allocations) {
         std::optional<ErrorNumber> error;
         {
-            const MemoryFor memory(allocations, GetParam().once);
+            const MemoryFor memory(allocations, GetParam().scarcity);
             error = Encode();
         }
         if (error) {
@@ -134,24 +77,25 @@ TEST_P(JpegMemoryTest, EveryAllocationThatFailsIsToldOrDoneWithout) {
         } else {
             ASSERT_EQ(files_.written, whole) << "after " << allocations;
         }
-        if (!failed) break;
+        if (!MemoryFor::RanOut()) break;
     }
     EXPECT_GT(told, 10);
 }
 
-INSTANTIATE_TEST_SUITE_P(Ways, JpegMemoryTest,
-                         ::testing::Values(Way{"SmallSurface", 20, 20, true, false},
-                                           Way{"SmallArray", 20, 20, false, false},
-                                           Way{"SurfaceForThreads", 640, 400, true, false},
-                                           Way{"SurfaceForThreadsOneFailure", 640, 400, true, true},
-                                           Way{"ArrayForThreadsOneFailure", 640, 400, false, true}),
-                         [](const auto& way) { return way.param.name; });
+INSTANTIATE_TEST_SUITE_P(
+    Ways, JpegMemoryTest,
+    ::testing::Values(Way{"SmallSurface", 20, 20, true, Scarcity::FromThereOn},
+                      Way{"SmallArray", 20, 20, false, Scarcity::FromThereOn},
+                      Way{"SurfaceForThreads", 640, 400, true, Scarcity::FromThereOn},
+                      Way{"SurfaceForThreadsOneFailure", 640, 400, true, Scarcity::OneAlone},
+                      Way{"ArrayForThreadsOneFailure", 640, 400, false, Scarcity::OneAlone}),
+    [](const auto& way) { return way.param.name; });
 
 TEST(FilesMemoryTest, FilesAndArraysWithoutRoomAreTold) {
     const Bitmap bitmap(8, 8);
     tiff::ByteArray array;
     const auto errorOf = [](const auto& make) {
-        const MemoryFor memory(0, false);
+        const MemoryFor memory(0);
         return ErrorOf(make);
     };
     EXPECT_EQ(errorOf([&] { (void)BmpFile(bitmap); }), ErrorNumber::OutOfMemory);

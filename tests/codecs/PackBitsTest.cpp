@@ -8,9 +8,11 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-ByteArray Decoded(ByteArray strip, std::int32_t rows, std::int32_t width) {
-    DecodePackBits(strip, 8, rows, width);
-    return strip;
+// The bytes of a file that is nothing but the strip.
+ByteArray Decoded(const ByteArray& strip, std::int32_t rows, std::int32_t width, int bits = 8,
+                  std::int64_t longest = kLongestArray) {
+    NoOperations file(strip);
+    return DecodePackBits(file, {0, static_cast<std::int64_t>(strip.size())}, bits, rows, width, longest);
 }
 
 TEST(PackBits, CopiesLiteralsAndRepeatsRuns) {
@@ -71,9 +73,26 @@ TEST(PackBits, TakesTheLongestRunAndTheLongestLiteral) {
 }
 
 TEST(PackBits, OfUnitsOfTwoBytesMovesByUnits) {
-    ByteArray strip = {254, 1, 2, 0, 3, 4};
-    DecodePackBits(strip, 16, 1, 4);
-    EXPECT_THAT(strip, ElementsAre(1, 2, 1, 2, 1, 2, 3, 4));
+    EXPECT_THAT(Decoded({254, 1, 2, 0, 3, 4}, 1, 4, 16), ElementsAre(1, 2, 1, 2, 1, 2, 3, 4));
+    // A no-op moves on by 3 behind a run, by 2 * (2 + 4) + 1 behind a literal of two units.
+    EXPECT_THAT(Decoded({255, 1, 2, 128, 9, 9, 0, 3, 4}, 1, 3, 16), ElementsAre(1, 2, 1, 2, 3, 4));
+    EXPECT_THAT(Decoded({1, 1, 2, 3, 4, 128, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 0, 5, 6}, 1, 3, 16),
+                ElementsAre(1, 2, 3, 4, 5, 6));
+}
+
+TEST(PackBits, TakesTheBytesOfItsStripAlone) {
+    const ByteArray bytes = {0, 1, 0, 2, 0, 3, 0, 4};
+    NoOperations file(bytes);
+    EXPECT_THAT(DecodePackBits(file, {2, 4}, 8, 1, 4), ElementsAre(2, 3, 0, 0));
+    EXPECT_THAT(DecodePackBits(file, {3, 3}, 8, 1, 4),
+                ElementsAre(0, 3, 0, 0)); // a literal of three, cut off
+}
+
+TEST(PackBits, ReadsZerosBehindTheFile) {
+    const ByteArray bytes = {0, 1, 2, 2};
+    NoOperations file(bytes);
+    EXPECT_THAT(DecodePackBits(file, {0, kLongestArray}, 8, 1, 6), ElementsAre(1, 2, 0, 0, 0, 0));
+    EXPECT_THAT(DecodePackBits(file, {0x7FFFFFFD, kLongestArray}, 8, 1, 2), ElementsAre(0, 0));
 }
 
 TEST(PackBits, LeavesASingleByteForAnEmptyPicture) {
@@ -84,9 +103,7 @@ TEST(PackBits, LeavesASingleByteForAnEmptyPicture) {
 
 TEST(PackBits, LeavesNothingForASizeThatCannotBe) {
     EXPECT_THAT(Decoded({0, 7}, -1, 5), IsEmpty());
-    ByteArray strip = {0, 7};
-    DecodePackBits(strip, 8, 10, 10, 99);
-    EXPECT_THAT(strip, IsEmpty());
+    EXPECT_THAT(Decoded({0, 7}, 10, 10, 8, 99), IsEmpty());
 }
 
 } // namespace

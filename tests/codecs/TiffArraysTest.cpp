@@ -25,7 +25,8 @@ TEST(BinaryFile, CountsPositionsFromOneAndReadsTheLowByteFirst) {
     EXPECT_EQ(file.Int16(), std::int16_t(0x80FF - 0x10000));
     file.Seek(1);
     EXPECT_EQ(file.Byte(), 1);
-    EXPECT_EQ(file.BytesLeft(), 6);
+    EXPECT_THAT(file.Rest(), ElementsAre(2, 3, 4, 5, 0xFF, 0x80));
+    EXPECT_EQ(file.Bytes().size(), 7U);
 }
 
 TEST(BinaryFile, ReadsZerosBeyondItsEnd) {
@@ -33,7 +34,7 @@ TEST(BinaryFile, ReadsZerosBeyondItsEnd) {
     BinaryFile file(bytes);
     EXPECT_EQ(file.Int32(), 0x030201);
     EXPECT_EQ(file.Int32(), 0);
-    EXPECT_EQ(file.BytesLeft(), 0);
+    EXPECT_TRUE(file.Rest().empty());
     file.Seek(std::numeric_limits<std::int32_t>::max());
     EXPECT_EQ(file.Int32(), 0);
     std::array<std::uint8_t, 4> filled = {9, 9, 9, 9};
@@ -81,6 +82,16 @@ TEST(LongArray, HasBoundsOnlyOnceItIsSized) {
     EXPECT_EQ(ErrorOf([&] { LongArray::From(file, 1, (1 << 28) + 1, false); }), ErrorNumber::OutOfMemory);
     EXPECT_EQ(ErrorOf([&] { LongArray::From(file, 1, 1 << 28, false); }), std::nullopt);
     EXPECT_EQ(ErrorOf([&] { LongArray::From(file, 0, 2, false); }), ErrorNumber::BadRecordNumber);
+}
+
+TEST(LongArray, TakesNoMoreMemoryForMoreElements) {
+    const ByteArray bytes(1 << 20, 1);
+    BinaryFile file(bytes);
+    // As often as a directory can tell one.
+    LongArray array;
+    for (int i = 0; i < 32767; ++i)
+        array = LongArray::From(file, 1, 1 << 28, false);
+    EXPECT_EQ(array[(1 << 18) - 1], 0x01010101);
 }
 
 TEST(ByteArrays, HaveBoundsOnlyOnceTheyAreSized) {
@@ -136,13 +147,26 @@ TEST(PadAndFlipRows, RunsOffAnImageThatIsTooShort) {
     EXPECT_EQ(ErrorOf([&] { PadAndFlipRows(image, 1, 1); }), ErrorNumber::SubscriptOutOfRange);
 }
 
+TEST(PadAndFlipRows, MakesZerosOfTheProductOfNegativeSizes) {
+    ByteArray image = {1, 2, 3};
+    PadAndFlipRows(image, -2, -4);
+    EXPECT_EQ(image, ByteArray(8));
+    image = {1};
+    PadAndFlipRows(image, -3, -7); // -4 is the next multiple of four
+    EXPECT_EQ(image, ByteArray(12));
+}
+
 TEST(PadAndFlipRows, RefusesSizesThatAreNone) {
     ByteArray image = {1};
     for (const int wrong : {0, -1, -4, -5}) {
         EXPECT_EQ(ErrorOf([&] { PadAndFlipRows(image, wrong, 1); }), ErrorNumber::SubscriptOutOfRange);
         EXPECT_EQ(ErrorOf([&] { PadAndFlipRows(image, 1, wrong); }), ErrorNumber::SubscriptOutOfRange);
-        EXPECT_EQ(ErrorOf([&] { PadAndFlipRows(image, wrong, wrong); }), ErrorNumber::SubscriptOutOfRange);
     }
+    for (const int tooFew : {0, -1, -2, -3}) // the next multiple of four is 0
+        EXPECT_EQ(ErrorOf([&] { PadAndFlipRows(image, -9, tooFew); }), ErrorNumber::SubscriptOutOfRange);
+    constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
+    EXPECT_EQ(ErrorOf([&] { PadAndFlipRows(image, kLowest, kLowest); }), ErrorNumber::Overflow);
+    EXPECT_EQ(ErrorOf([&] { PadAndFlipRows(image, -2, -4, 7); }), ErrorNumber::OutOfMemory);
     EXPECT_EQ(ErrorOf([&] { PadAndFlipRows(image, 65536, 65536); }), ErrorNumber::Overflow);
     EXPECT_EQ(ErrorOf([&] { PadAndFlipRows(image, 1, std::numeric_limits<std::int32_t>::max()); }),
               ErrorNumber::Overflow);

@@ -152,6 +152,16 @@ TEST_F(ClsTiffFailures, ShowInSizesThatAreNone) {
     }
 }
 
+TEST_F(ClsTiffFailures, AreNoneOfTwoNegativeSizes) {
+    for (const std::uint32_t bits : {1U, 8U, 24U}) {
+        picSmall.Picture = test::ChartPicture(9, 9);
+        const TestTiff file{TiffFields(65536 - 40, 65536 - 30, bits, 1, 1, 1, 1), {{1, 2, 3, 4}}};
+        EXPECT_EQ(ErrorOfLoading(file), std::nullopt) << bits;
+        // Nothing is drawn into the box, which keeps its size.
+        EXPECT_EQ(Shown(), Bitmap(9, 9, PixelOf(picSmall.BackColor))) << bits;
+    }
+}
+
 TEST_F(ClsTiffFailures, ShowInColourMapsThatAreNoTriples) {
     struct Row {
         std::size_t count;
@@ -204,13 +214,45 @@ TEST_F(ClsTiffFailures, ShowInPackBitsStripsOfNoRows) {
 }
 
 TEST_F(ClsTiffFailures, KeepArraysWithinTheLimitOfTheReader) {
-    clsTiff limited(picSmall, files, 4);
+    clsTiff limited(picSmall, files, {.longestArray = 4});
     files.AddFile(kFile, TiffBytes(TestTiff{TiffFields(2, 2, 8, 1, 1, 1, 1), {{1, 2}, {3, 4}}}));
     EXPECT_EQ(test::ErrorOf([&] { limited.LoadTIFF(kFile); }), ErrorNumber::OutOfMemory); // rows of 4 bytes
     files.AddFile(kFile, TiffBytes(TestTiff{TiffFields(2, 1, 8, 1, 1, 1, 1), {{1, 2}, {3, 4}}}));
     EXPECT_EQ(test::ErrorOf([&] { limited.LoadTIFF(kFile); }), std::nullopt);
     files.AddFile(kFile, TiffBytes(TestTiff{TiffFields(2, 1, 8, 1, 1, 1, 1), {{1, 2}, {3, 4, 5}}}));
     EXPECT_EQ(test::ErrorOf([&] { limited.LoadTIFF(kFile); }), ErrorNumber::OutOfMemory);
+}
+
+TEST_F(ClsTiffFailures, ShowInAPictureThatIsTooLarge) {
+    for (const std::uint32_t bits : {1U, 8U, 24U}) {
+        TestTiff file{TiffFields(3, 2, bits, 1, 1, 1, 1), {FileBytes(18)}};
+        clsTiff wide(picSmall, files, {.mostPixels = 6});
+        files.AddFile(kFile, TiffBytes(file));
+        EXPECT_EQ(test::ErrorOf([&] { wide.LoadTIFF(kFile); }), std::nullopt) << bits;
+        EXPECT_EQ(Shown().Width(), 3) << bits;
+        clsTiff narrow(picSmall, files, {.mostPixels = 5});
+        picSmall.Picture = test::ChartPicture(9, 9);
+        EXPECT_EQ(test::ErrorOf([&] { narrow.LoadTIFF(kFile); }), ErrorNumber::OutOfMemory) << bits;
+        EXPECT_TRUE(ShowsNothing()) << bits;
+        EXPECT_EQ(picSmall.PixelWidth(), 9) << bits; // the box was never sized
+        EXPECT_TRUE(HasDump()) << bits;
+    }
+}
+
+TEST_F(ClsTiffFailures, AreNoneOfAPictureThatIsTooLargeToBeShownButIsNot) {
+    clsTiff narrow(picSmall, files, {.mostPixels = 5});
+    files.AddFile(kFile, TiffBytes(TestTiff{TiffFields(3, 2, 8, 5, 1, 1, 2), {FileBytes(6)}}));
+    EXPECT_EQ(test::ErrorOf([&] { narrow.LoadTIFF(kFile); }), std::nullopt);
+}
+
+// A quarter of a gibibyte of pixels is as large as pictures get; a row more shows nothing at all.
+TEST_F(ClsTiffFailures, ShowInMorePixelsThanAnyPictureHas) {
+    TestTiff file{TiffFields(16384, 16385, 1, 1, 1, 1, 1), {FileBytes{0}}};
+    file.hasStripByteCounts = false;
+    file.fields.push_back({279, kLong, {16384 / 8 * 16385}});
+    EXPECT_EQ(ErrorOfLoading(file), ErrorNumber::OutOfMemory);
+    EXPECT_TRUE(ShowsNothing());
+    EXPECT_EQ(picSmall.PixelWidth(), 9);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // What the TIFF reader shows, and what it silently does not.
 #include "tests/codecs/TiffProgram.h"
+#include "tests/support/ErrorOf.h"
 
 #include <gmock/gmock.h>
 
@@ -11,6 +12,7 @@ using test::kLong;
 using test::kShort;
 using test::TestTiff;
 using test::TiffFields;
+using test::TiffOfEntries;
 using testing::ElementsAre;
 
 constexpr std::uint32_t kPackBitsTag = 32773;
@@ -74,6 +76,37 @@ TEST_F(ClsTiff, ShowsBlackBeyondAShortColourMap) {
     file.fields.push_back({320, kShort, {0x0100, 0x0200, 0x0300, 0x0400, 0x0500, 0x0600}});
     Load(file);
     EXPECT_THAT(Shown().Row(0), ElementsAre(Pixel{5, 3, 1, 0}, kBlack));
+}
+
+TEST_F(ClsTiff, RemembersThatAFileHadAColourMap) {
+    TestTiff file{TiffFields(2, 1, 8, 1, 3, 1, 1), {{0, 200}}};
+    file.fields.push_back({320, kShort, {0x0100, 0x0200, 0x0300}});
+    Load(file);
+    EXPECT_THAT(Shown().Row(0), ElementsAre(Pixel{3, 2, 1, 0}, kBlack));
+    file.fields.pop_back();
+    Load(file); // and takes the map of none
+    EXPECT_THAT(Shown().Row(0), ElementsAre(kBlack, kBlack));
+    clsTiff fresh(picSmall, files);
+    fresh.LoadTIFF(kFile);
+    EXPECT_THAT(Shown().Row(0), ElementsAre(kBlack, Grey(200)));
+}
+
+TEST_F(ClsTiff, TakesTheLastOfTwoColourMapsAlone) {
+    TestTiff file{TiffFields(2, 1, 8, 1, 3, 1, 1), {{0, 1}}};
+    file.fields.push_back({320, kShort, {0x0100, 0x0200, 0x0300, 0x0400, 0x0500, 0x0600}});
+    file.fields.push_back({320, kShort, {0x0700, 0x0800, 0x0900, 0x0A00}}); // a triple and a number
+    Load(file);
+    EXPECT_THAT(Shown().Row(0), ElementsAre(Pixel{9, 8, 7, 0}, kBlack));
+}
+
+TEST_F(ClsTiff, TakesTheFirstColoursOfALongerColourMap) {
+    TestTiff file{TiffFields(2, 1, 8, 1, 3, 1, 1), {{0, 255}}};
+    std::vector<std::uint32_t> map(900); // 300 colours
+    map[0] = 0x0100, map[300] = 0x0200, map[600] = 0x0300;
+    map[255] = 0x0400, map[555] = 0x0500, map[855] = 0x0600;
+    file.fields.push_back({320, kShort, map});
+    Load(file);
+    EXPECT_THAT(Shown().Row(0), ElementsAre(Pixel{3, 2, 1, 0}, Pixel{6, 5, 4, 0}));
 }
 
 TEST_F(ClsTiff, ShowsOneBitPixelsByThePhotometricValue) {
@@ -177,6 +210,17 @@ TEST_F(ClsTiff, CountsSamplesForBitsWhereThereAreSeveral) {
     EXPECT_EQ(fresh.BitsPerPixel(), 0);
 }
 
+TEST_F(ClsTiff, CountsNoBitsWhereTheirFieldHasNoValues) {
+    TestTiff file{TiffFields(1, 1, 8, 1, 1, 1, 1), {{7}}};
+    Load(file);
+    EXPECT_EQ(tiff.BitsPerPixel(), 8);
+    FileBytes bytes = TiffBytes(file);
+    bytes[8 + 1 + 2 + 2 * 12 + 4] = 0; // header, strip, number of entries, two entries, tag and type
+    Load(bytes);
+    EXPECT_EQ(tiff.BitsPerPixel(), 0);
+    EXPECT_TRUE(ShowsNothing());
+}
+
 TEST_F(ClsTiff, ShowsNothingWithoutTheNumberOfSamples) {
     TestTiff file{TiffFields(1, 1, 8, 1, 1, 1, 1), {{7}}};
     file.fields.erase(file.fields.begin() + 5);
@@ -269,6 +313,26 @@ TEST_F(ClsTiff, IgnoresOrientationPlanesAndPredictor) {
     file.fields.push_back({254, kLong, {1}});
     Load(file);
     EXPECT_THAT(Shown().Row(0), ElementsAre(Grey(5), Grey(6), Grey(7)));
+}
+
+TEST_F(ClsTiff, SwapsTheNumberOfEntriesOfABigEndianFile) {
+    // What looks like a second entry stands behind the only one.
+    const FileBytes decoy = {1, 0, 0, 3, 0, 0, 0, 1, 9, 0, 0, 0};
+    const auto error = test::ErrorOf([&] { Load(TiffOfEntries({{256, kShort, 1, 7}}, decoy, true)); });
+    EXPECT_EQ(error, ErrorNumber::SubscriptOutOfRange); // of strips that were never told
+    EXPECT_EQ(tiff.ImageWidth(), 7);
+}
+
+TEST_F(ClsTiff, SwapsTheTypesOfABigEndianFile) {
+    // As a SHORT the value is 5, as four bytes it would be more.
+    Load(TiffOfEntries({{256, kShort, 1, 0x00070005},
+                        {257, kLong, 1, 0x00070005},
+                        {259, kShort, 1, 5},
+                        {273, kLong, 1, 8},
+                        {279, kLong, 1, 1}},
+                       {}, true));
+    EXPECT_EQ(tiff.ImageWidth(), 5);
+    EXPECT_EQ(tiff.ImageHeight(), 0x00070005);
 }
 
 TEST_F(ClsTiff, ReadsTheFirstDirectoryAlone) {

@@ -106,4 +106,38 @@ inline FileBytes TiffBytes(const TestTiff& tiff) {
     return TiffMaker(tiff).Make();
 }
 
+// An entry of a directory as it stands there, whatever its count claims.
+struct TiffEntry {
+    std::uint32_t tag = 0;
+    std::uint32_t type = kShort;
+    std::uint32_t count = 1;
+    std::uint32_t value = 0; // low byte first, as the reader takes it from files of either byte order
+};
+
+// The header, the directory at 8, at once behind the last entry the bytes that follow it. Where those begin:
+// TiffEntriesEnd.
+inline FileBytes TiffOfEntries(const std::vector<TiffEntry>& entries, const FileBytes& behind = {},
+                               bool isBigEndian = false) {
+    FileBytes bytes = isBigEndian ? FileBytes{'M', 'M'} : FileBytes{'I', 'I'};
+    const auto number = [&](std::uint32_t value, int size) {
+        for (int i = 0; i < size; ++i)
+            bytes.push_back(static_cast<std::uint8_t>(value >> (8 * (isBigEndian ? size - 1 - i : i))));
+    };
+    number(42, 2);
+    number(8, 4);
+    number(static_cast<std::uint32_t>(entries.size()), 2);
+    for (const TiffEntry& entry : entries) {
+        number(entry.tag, 2);
+        number(entry.type, 2);
+        number(entry.count, 4);
+        Put(bytes, entry.value, 4);
+    }
+    Put(bytes, behind);
+    return bytes;
+}
+
+constexpr std::uint32_t TiffEntriesEnd(std::size_t entryCount) {
+    return static_cast<std::uint32_t>(10 + 12 * entryCount);
+}
+
 } // namespace mirelle::test
