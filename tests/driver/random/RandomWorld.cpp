@@ -3,6 +3,7 @@
 #include "codecs/BmpWriter.h"
 #include "codecs/cJPEG.h"
 #include "tests/driver/Errors.h"
+#include "tests/driver/random/CanvasRule.h"
 #include "tests/driver/random/Invariants.h"
 #include "tests/support/Patterns.h"
 
@@ -87,13 +88,14 @@ RandomWorld::RandomWorld(const std::string& folder)
                                        if (found == pictures_.end()) throw CommandError("no " + name);
                                        return found->second;
                                    }}),
-      conversation_(session_) {
+      conversation_(session_), folder_(folder) {
     for (const FileRow& row : kFiles)
         disk_.WriteFile(row.path, BytesOf(row, disk_, encoders_));
     session_.desktop.screen.size = {400, 300}; // a small one, so that pictures of the form are small
     conversation_.Answer("start");
     conversation_.Answer("window normal 320 200");
-    files_.currentFolder = [this] { return Form().File5.Path(); };
+    files_.savePlace = [this] { return SavePlace{Form().File5.Path(), Form().textProfileName.Text()}; };
+    atFirst_.emplace(folder_);
 }
 
 RandomUser::Reach RandomWorld::Reach() const {
@@ -113,13 +115,24 @@ RandomUser::Reach RandomWorld::Reach() const {
 }
 
 std::optional<std::string> RandomWorld::Do(const std::string& event) {
+    const bool hasToShowCanvas = HasToShowCanvas(Form(), session_.desktop, event);
     // A smudger works for long: the user gives up after a few passes.
     if (event.find("cmdPointalism") != std::string::npos) conversation_.Answer("during pass 4 key esc");
     const std::string answer = conversation_.Answer(event).value_or("");
     if (!answer.starts_with("ok")) return "the answer is: " + answer;
     if (conversation_.Ended()) return "the session has ended";
     if (files_.strayPath) return "written outside of the library's folder: " + *files_.strayPath;
-    return BrokenInvariant(Form(), event);
+    return BrokenInvariant(Form(), hasToShowCanvas);
+}
+
+std::optional<std::string> RandomWorld::StrayFile() const {
+    for (const std::string& path : atFirst_->ChangedSince()) {
+        const std::size_t drive = path.find('/');
+        if (drive == std::string::npos) return path;
+        const std::string onDrive = path.substr(0, drive) + ':' + path.substr(drive);
+        if (!files_.HasBeenIn(onDrive.substr(0, onDrive.rfind('/') + 1))) return path;
+    }
+    return {};
 }
 
 void RandomWorld::Forget() {

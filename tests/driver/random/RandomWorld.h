@@ -6,6 +6,7 @@
 #include "desktop/files/RootedWindowsFileSystem.h"
 #include "desktop/pictures/ImageFileLoader.h"
 #include "tests/driver/Conversation.h"
+#include "tests/driver/random/FolderSnapshot.h"
 #include "tests/driver/random/WatchedFiles.h"
 #include "tests/driver/RandomUser.h"
 
@@ -25,6 +26,8 @@ public:
     FrmPicX& Form() { return session_.MainForm(); }
     // Does an event. What went wrong, nothing where all is well.
     std::optional<std::string> Do(const std::string& event);
+    // The first file on the disks that has changed in a folder that the program has not been in.
+    std::optional<std::string> StrayFile() const;
     // Forgets what was recorded for a script to ask for.
     void Forget();
 
@@ -38,6 +41,8 @@ private:
     FileEncoders encoders_;
     Session session_;
     Conversation conversation_;
+    std::string folder_;
+    std::optional<FolderSnapshot> atFirst_;
 };
 
 } // namespace mirelle::driver
