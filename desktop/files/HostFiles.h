@@ -37,7 +37,9 @@ std::vector<std::uint8_t> ReadWholeFile(const std::string& path);
 void ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes);
 
 // Writes the bytes at the file's start and leaves what it holds beyond them; makes the file where it is
-// missing. Raises what ReplaceFile raises; a file that was made for it is then gone again.
+// missing. Raises what ReplaceFile raises; a file that was made for it is then gone again. Where the system
+// tells whose a file is, it is for this user alone then, also where it was there before, and one of another
+// user's or of more than one name raises 75.
 void OverwriteFileStart(const std::string& path, std::span<const std::uint8_t> bytes);
 
 // Takes the file away; of a link the link. Raises 53 (no such file), 75 (not permitted), 70 (in use).

@@ -71,6 +71,17 @@ void WriteAll(int descriptor, std::span<const std::uint8_t> bytes, const std::st
     }
 }
 
+// A file that stands there already, for writing: this user's own, under no other name, and private from now
+// on. What another user has laid ready would hand him what is written.
+Descriptor OpenOwnFile(const std::string& path) {
+    Descriptor file = OpenRegularFile(path, O_WRONLY | O_NOFOLLOW, 0, Action::Write);
+    struct stat found {};
+    if (::fstat(file.Number(), &found) != 0) RaiseSystemError(errno, Action::Write, path);
+    if (found.st_uid != ::geteuid() || found.st_nlink != 1) throw RunTimeError(ErrorNumber::PathFileAccess);
+    if (::fchmod(file.Number(), kPrivateMode) != 0) RaiseSystemError(errno, Action::Write, path);
+    return file;
+}
+
 // Where a link leads to, so that it is not the link that is replaced. A link to nothing stays itself.
 std::string TargetOf(const std::string& path) {
     const std::unique_ptr<char, decltype(&std::free)> real{::realpath(path.c_str(), nullptr), &std::free};
@@ -105,15 +116,22 @@ void ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) {
 
 void OverwriteFileStart(const std::string& path, std::span<const std::uint8_t> bytes) {
     struct stat found {};
-    const bool wasThere = ::stat(path.c_str(), &found) == 0;
-    if (wasThere && !S_ISREG(found.st_mode)) throw RunTimeError(ErrorNumber::PathFileAccess);
+    if (::stat(path.c_str(), &found) == 0 && !S_ISREG(found.st_mode))
+        throw RunTimeError(ErrorNumber::PathFileAccess);
 
-    // Private, and never through a link: such files lie where everybody may put some.
-    Descriptor file = OpenRegularFile(path, O_WRONLY | O_CREAT | O_NOFOLLOW, kPrivateMode, Action::Write);
-    FileOnProbation made{wasThere ? std::string() : path};
+    // Such files lie where everybody may put some: a new one is private, and never made through a link.
+    bool isNew = true;
+    Descriptor file = [&] {
+        Descriptor made{::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kPrivateMode)};
+        if (made.IsOpen()) return made;
+        if (errno != EEXIST) RaiseSystemError(errno, Action::Write, path);
+        isNew = false;
+        return OpenOwnFile(path);
+    }();
+    FileOnProbation probation{isNew ? path : std::string()};
     WriteAll(file.Number(), bytes, path);
     if (const int failure = file.Close(); failure != 0) RaiseSystemError(failure, Action::Write, path);
-    made.Keep();
+    probation.Keep();
 }
 
 } // namespace mirelle::host

@@ -1,6 +1,7 @@
 #include "desktop/files/NativeFileSystem.h"
 
 #include "tests/desktop/ports/Bytes.h"
+#include "tests/support/AsNobody.h"
 #include "tests/support/ErrorOf.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -269,6 +270,36 @@ TEST_F(NativeFileSystemTest, KeepsTheDumpToItsOwnerAndWritesItThroughNoLink) {
     EXPECT_EQ(ErrorOf([&] { files_.OverwriteStart(folder_ / "link", BytesOf("new")); }),
               ErrorNumber::PathNotFound);
     EXPECT_EQ(folder_.ContentOf("another's"), "old");
+}
+
+TEST_F(NativeFileSystemTest, TakesADumpThatIsThereForItsOwnerAlone) {
+    folder_.MakeFile("komp.txt", "0123456789");
+    ::chmod((folder_ / "komp.txt").c_str(), 0666);
+    files_.OverwriteStart(folder_ / "komp.txt", BytesOf("abc"));
+    EXPECT_EQ(fs::status(folder_ / "komp.txt").permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(folder_.ContentOf("komp.txt"), "abc3456789");
+}
+
+TEST_F(NativeFileSystemTest, WritesNoDumpIntoAFileOfTwoNames) {
+    folder_.MakeFile("another's", "old");
+    fs::create_hard_link(folder_ / "another's", folder_ / "komp.txt");
+    EXPECT_EQ(ErrorOf([&] { files_.OverwriteStart(folder_ / "komp.txt", BytesOf("new")); }),
+              ErrorNumber::PathFileAccess);
+    EXPECT_EQ(folder_.ContentOf("another's"), "old");
+    EXPECT_EQ(folder_.ContentOf("komp.txt"), "old");
+}
+
+TEST_F(NativeFileSystemTest, WritesNoDumpIntoAFileOfAnotherUser) {
+    if (::geteuid() != 0) GTEST_SKIP() << "needs a second user, which only root can become";
+    ::chmod(folder_.Path().c_str(), 0777);
+    folder_.MakeFile("komp.txt", "laid ready");
+    ::chmod((folder_ / "komp.txt").c_str(), 0666);
+    {
+        const test::AsNobody nobody;
+        EXPECT_EQ(ErrorOf([&] { files_.OverwriteStart(folder_ / "komp.txt", BytesOf("new")); }),
+                  ErrorNumber::PathFileAccess);
+    }
+    EXPECT_EQ(folder_.ContentOf("komp.txt"), "laid ready");
 }
 
 TEST_F(NativeFileSystemTest, ReplacesTheFileBehindALinkAndKeepsTheLink) {

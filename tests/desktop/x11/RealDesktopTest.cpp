@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include <chrono>
+#include <string>
 
 namespace mirelle::test {
 namespace {
@@ -35,6 +36,18 @@ TEST(RealDesktop, TypesIntoTheConsoleAndSeesItsEscape) {
     EXPECT_EQ(console.TakeRecord(), "pt1 = [1,1,0]\ré\x1b");
     EXPECT_TRUE(ports.keyboard.EscapeWentDown());
     EXPECT_FALSE(ports.keyboard.EscapeWentDown());
+}
+
+TEST(RealDesktop, DumpsIntoTheFolderForTemporaryFiles) {
+    const QTemporaryDir home;
+    const std::string folder = home.path().toStdString();
+    const QByteArray before = qgetenv("TMPDIR");
+    for (const std::string& place : {folder, std::string("/tmp")}) {
+        qputenv("TMPDIR", place.c_str());
+        RealDesktop desktop(folder);
+        EXPECT_EQ(desktop.ThePorts().files.DumpFile(), place + "/komp.txt");
+    }
+    qputenv("TMPDIR", before);
 }
 
 } // namespace
