@@ -1,9 +1,11 @@
 // Disks that are full and folders that forbid: what is raised, and what is left.
 
+#include "desktop/files/HostErrors.h"
 #include "desktop/files/NativeFileSystem.h"
 #include "tests/desktop/ports/Bytes.h"
 #include "tests/support/AsNobody.h"
 #include "tests/support/ErrorOf.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <cerrno>
@@ -20,9 +22,10 @@ namespace {
 using test::AsNobody;
 using test::BytesOf;
 using test::ErrorOf;
+using test::FullBy;
+using test::FullDisk;
 using test::TextOfBytes;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class ForbiddenTest : public testing::Test {
 protected:
@@ -100,33 +103,29 @@ TEST_F(ForbiddenTest, AnothersFilesAttributesAreNotChanged) {
     EXPECT_EQ(ErrorOf([&] { files_.MakeWritable(folder_ / "wall.jpg"); }), ErrorNumber::PathFileAccess);
 }
 
-// A disk of 64 KiB.
-class FullDiskTest : public testing::Test {
+class FullDiskTest : public testing::TestWithParam<FullBy> {
 protected:
     void SetUp() override {
-        folder_.MakeFolder("disk");
-        isMounted_ = ::mount("none", disk_.c_str(), "tmpfs", 0, "size=64k,mode=755") == 0;
-        if (!isMounted_) GTEST_SKIP() << "no disk can be mounted here: " << std::strerror(errno);
-    }
-    ~FullDiskTest() override {
-        if (isMounted_) ::umount2(disk_.c_str(), MNT_DETACH);
+        if (full_.IsThere()) return;
+        ASSERT_EQ(GetParam(), FullBy::Mount)
+            << "the size of files can't be limited: " << std::strerror(errno);
+        GTEST_SKIP() << "no disk can be mounted here, the limit stands in for it: " << std::strerror(errno);
     }
 
     test::TemporaryFolder folder_;
-    std::string disk_ = folder_ / "disk";
-    bool isMounted_ = false;
+    std::string disk_ = folder_.MakeFolder("disk");
+    FullDisk full_{disk_, GetParam()};
     NativeFileSystem files_{folder_.Path(), folder_ / "komp.txt"};
-    const std::vector<std::uint8_t> tooMuch_ = std::vector<std::uint8_t>(200'000, 'x');
+    const std::vector<std::uint8_t> tooMuch_ = std::vector<std::uint8_t>(3 * FullDisk::kSize, 'x');
 };
 
-TEST_F(FullDiskTest, LeavesNothingOfANewFile) {
+TEST_P(FullDiskTest, LeavesNothingOfANewFile) {
     EXPECT_EQ(ErrorOf([&] { files_.WriteFile(disk_ + "/wall.jpg", tooMuch_); }), ErrorNumber::DiskFull);
     EXPECT_EQ(ErrorOf([&] { files_.OverwriteStart(disk_ + "/komp.txt", tooMuch_); }), ErrorNumber::DiskFull);
-    EXPECT_THAT(folder_.ContentOf("disk/wall.jpg"), IsEmpty());
     EXPECT_TRUE(std::filesystem::is_empty(disk_));
 }
 
-TEST_F(FullDiskTest, LosesNothingOfTheOldFile) {
+TEST_P(FullDiskTest, LosesNothingOfTheOldFile) {
     files_.WriteFile(disk_ + "/wall.jpg", BytesOf("old"));
     EXPECT_EQ(ErrorOf([&] { files_.WriteFile(disk_ + "/wall.jpg", tooMuch_); }), ErrorNumber::DiskFull);
     EXPECT_EQ(TextOfBytes(files_.ReadFile(disk_ + "/wall.jpg")), "old");
@@ -135,16 +134,46 @@ TEST_F(FullDiskTest, LosesNothingOfTheOldFile) {
     EXPECT_EQ(TextOfBytes(files_.ReadFile(disk_ + "/wall.jpg")), "new");
 }
 
-TEST_F(FullDiskTest, ThatIsWriteProtectedSaysSo) {
-    files_.WriteFile(disk_ + "/wall.jpg", BytesOf("old"));
-    if (::mount("none", disk_.c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, "size=64k") != 0)
-        GTEST_SKIP() << "no disk can be write-protected here";
+INSTANTIATE_TEST_SUITE_P(Ways, FullDiskTest, testing::Values(FullBy::Mount, FullBy::Limit),
+                         [](const auto& way) { return NameOf(way.param); });
+
+class WriteProtectedDiskTest : public testing::Test {
+protected:
+    void SetUp() override {
+        folder_.MakeFile("disk/wall.jpg", "old");
+        isMounted_ = ::mount(disk_.c_str(), disk_.c_str(), nullptr, MS_BIND, nullptr) == 0;
+        if (!isMounted_ || ::mount("none", disk_.c_str(), nullptr, MS_REMOUNT | MS_BIND | MS_RDONLY, nullptr))
+            GTEST_SKIP() << "no disk can be write-protected here: " << std::strerror(errno);
+    }
+    ~WriteProtectedDiskTest() override {
+        if (isMounted_) ::umount2(disk_.c_str(), MNT_DETACH);
+    }
+
+    test::TemporaryFolder folder_;
+    std::string disk_ = folder_.MakeFolder("disk");
+    bool isMounted_ = false;
+    NativeFileSystem files_{folder_.Path(), folder_ / "komp.txt"};
+};
+
+TEST_F(WriteProtectedDiskTest, SaysSo) {
     EXPECT_EQ(ErrorOf([&] { files_.WriteFile(disk_ + "/wall.jpg", BytesOf("new")); }),
               ErrorNumber::PermissionDenied);
     EXPECT_EQ(ErrorOf([&] { files_.WriteFile(disk_ + "/new.jpg", BytesOf("new")); }),
               ErrorNumber::PermissionDenied);
+    EXPECT_EQ(ErrorOf([&] { files_.OverwriteStart(disk_ + "/wall.jpg", BytesOf("new")); }),
+              ErrorNumber::PermissionDenied);
     EXPECT_EQ(ErrorOf([&] { files_.DeleteFile(disk_ + "/wall.jpg"); }), ErrorNumber::PermissionDenied);
     EXPECT_EQ(TextOfBytes(files_.ReadFile(disk_ + "/wall.jpg")), "old");
+}
+
+// What the system says of disks, for where no such disk can be had.
+TEST(SystemErrors, TellFullAndWriteProtectedDisksApart) {
+    using host::Action;
+    for (const int full : {ENOSPC, EDQUOT, EFBIG})
+        EXPECT_EQ(ErrorOf([&] { host::RaiseSystemError(full, Action::Write, "/x"); }), ErrorNumber::DiskFull);
+    for (const Action action : {Action::Write, Action::Delete})
+        EXPECT_EQ(ErrorOf([&] { host::RaiseSystemError(EROFS, action, "/x"); }),
+                  ErrorNumber::PermissionDenied);
 }
 
 } // namespace
