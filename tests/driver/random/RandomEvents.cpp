@@ -7,6 +7,7 @@
 // file, one a line.
 #include "tests/driver/random/RandomWorld.h"
 #include "tests/driver/random/ShortestList.h"
+#include "tests/support/HeapInUse.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <charconv>
@@ -18,15 +19,13 @@
 #include <fstream>
 #include <iostream>
 
-#include <malloc.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-extern "C" __attribute__((weak)) std::size_t __sanitizer_get_current_allocated_bytes();
 
 namespace {
 
 using namespace mirelle::driver;
+using mirelle::test::HeapInUse;
 using mirelle::test::TemporaryFolder;
 
 constexpr int kFailedStatus = 3;
@@ -46,12 +45,6 @@ struct Options {
     unsigned seed = 1;
     std::string replay;
 };
-
-std::size_t HeapInUse() {
-    if (__sanitizer_get_current_allocated_bytes) return __sanitizer_get_current_allocated_bytes();
-    const auto info = ::mallinfo2();
-    return info.uordblks + info.hblkhd;
-}
 
 // Runs in the child process. What it does is in the log before it is done.
 class ChildSession {
