@@ -161,7 +161,7 @@ TEST(Memory, DoesNotGrowOverTenThousandPastesCropsAndSaves) {
     }
     EXPECT_EQ(program.form.File5.ListCount(), kNames);
     EXPECT_LT(HeapInUse(), heapAtFirst + (std::size_t{1} << 20));
-    if (MIRELLE_SANITIZED) return; // it keeps what is freed for a while
+    if (MIRELLE_SANITIZED) return;                 // it keeps what is freed for a while
     EXPECT_LT(PagesInUse(1), pagesAtFirst + 4096); // 16 megabytes
 }
 
