@@ -66,6 +66,11 @@ FileBytes MakeJpeg(const Bitmap& bitmap, const JpegMaking& making) {
     jpeg_set_defaults(&encoder);
     jpeg_set_quality(&encoder, making.quality, TRUE);
     encoder.write_Adobe_marker = making.colours == Colours::Four ? TRUE : FALSE;
+    if (isThree) {
+        encoder.comp_info[0].h_samp_factor = making.lumaAcross;
+        encoder.comp_info[0].v_samp_factor = making.lumaDown;
+    }
+    encoder.restart_in_rows = making.rowsBetweenRestarts;
     if (making.isProgressive) jpeg_simple_progression(&encoder);
     const std::vector<jpeg_scan_info> scans = CountlessScans();
     if (making.hasCountlessScans) {

@@ -15,6 +15,10 @@ struct JpegMaking {
     enum class Colours { Grey, Three, Four, FourUnmarked } colours = Colours::Three;
     int quality = 90;
     bool isProgressive = false;
+    // How often luma is sampled where colour is sampled once, across and down.
+    int lumaAcross = 2;
+    int lumaDown = 2;
+    int rowsBetweenRestarts = 0; // rows of blocks; 0: no restart
     // One scan for each coefficient and each of its bits: more than any camera or program writes.
     bool hasCountlessScans = false;
     FileBytes exif = {}; // an APP1 segment's content

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <optional>
 
 namespace mirelle {
 namespace {
@@ -152,6 +153,64 @@ TEST(JpegReader, SurvivesAnyBrokenByte) {
         const auto error = ErrorOf([&] { ReadJpeg(broken); });
         ASSERT_TRUE(!error || error == ErrorNumber::InvalidPicture || error == ErrorNumber::OutOfMemory) << i;
     }
+}
+
+// What a file gives: its picture, or an error.
+struct Outcome {
+    Bitmap bitmap;
+    std::optional<ErrorNumber> error;
+
+    friend bool operator==(const Outcome&, const Outcome&) = default;
+};
+
+template <class Read>
+Outcome OutcomeOf(const Read& read) {
+    Outcome outcome;
+    outcome.error = ErrorOf([&] { outcome.bitmap = read(); });
+    return outcome;
+}
+
+TEST(JpegReader, GivesTheSameInTwoThreadsWhereverTheyPart) {
+    constexpr int height = 203;
+    const Bitmap bitmap = test::SmoothBitmap(45, height);
+    const JpegMaking makings[] = {
+        {},
+        {.quality = 30, .rowsBetweenRestarts = 1},
+        {.lumaAcross = 1, .lumaDown = 1},
+        {.lumaAcross = 2, .lumaDown = 1, .rowsBetweenRestarts = 3},
+        {.lumaAcross = 1, .lumaDown = 2},
+        {.lumaAcross = 4, .lumaDown = 2},
+        {.lumaAcross = 1, .lumaDown = 4},
+        {.colours = Colours::Grey},
+        {.colours = Colours::Four},
+        {.isProgressive = true},
+    };
+    for (const JpegMaking& making : makings) {
+        const FileBytes file = MakeJpeg(bitmap, making);
+        const Bitmap inOne = ReadJpeg(file);
+        for (int split = 0; split <= height; ++split)
+            ASSERT_EQ(ReadJpegInTwo(file, split), inOne) << &making - makings << ' ' << split;
+    }
+}
+
+TEST(JpegReader, GivesTheSameOfABrokenFileInTwoThreads) {
+    const FileBytes file = MakeJpeg(test::SmoothBitmap(40, 180), {.quality = 50, .rowsBetweenRestarts = 4});
+    const auto expectSame = [](const FileBytes& bytes, std::size_t place) {
+        EXPECT_EQ(OutcomeOf([&] { return ReadJpegInTwo(bytes, 117); }),
+                  OutcomeOf([&] { return ReadJpeg(bytes); }))
+            << place;
+    };
+    for (std::size_t i = 0; i < file.size(); ++i) {
+        FileBytes broken = file;
+        broken[i] = static_cast<std::uint8_t>(broken[i] ^ 0x55);
+        expectSame(broken, i);
+        expectSame(Cut(file, i), i);
+    }
+}
+
+TEST(JpegReader, GivesOfALargePictureWhatTheLibraryGives) {
+    const FileBytes file = MakeJpeg(test::SmoothBitmap(1201, 1003));
+    EXPECT_EQ(ReadJpeg(file), test::DecodeJpegPlainly(file));
 }
 
 TEST(JpegReader, MakesNoPictureOfTheSizeThatAFewBytesClaim) {
