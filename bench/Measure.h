@@ -22,12 +22,16 @@ struct Peer {
 struct Contest {
     Run ours; // empty where this machine lacks what it takes
     std::vector<Peer> peers;
-    // Asked after the last round: what is wrong with our result. Empty where it holds.
+    // Asked after the last round: what is wrong with our result. Empty where it holds. It makes itself what
+    // it compares with: the peers may not have run. A measure without it tells how long, and nothing more.
     std::function<std::string()> fault = [] { return std::string(); };
 };
 
 enum class Cores { One, All };
 enum class Unit { Seconds, Pictures };
+
+// Memory as a run meets it: fresh from the system, which clears each page of it, or used before.
+enum class Memory { Fresh, Kept };
 
 struct Measure {
     std::string name;
@@ -40,6 +44,14 @@ struct Group {
     std::string title;
     std::vector<Measure> measures;
 };
+
+// A measure on all cores, and the same on one: where we may use both cores, a peer that has one thread says
+// less.
+inline void AddOnAllCoresAndOne(Group& group, const std::string& name,
+                                const std::function<Contest(Cores)>& prepare) {
+    group.measures.push_back({name + ", all cores", [=] { return prepare(Cores::All); }, Cores::All});
+    group.measures.push_back({name + ", one core", [=] { return prepare(Cores::One); }, Cores::One});
+}
 
 // The compiler must take what is there as read, and as changed.
 inline void Keep(void* memory) {

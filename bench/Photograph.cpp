@@ -4,6 +4,9 @@
 #include <array>
 #include <cmath>
 #include <random>
+#include <stdexcept>
+#include <utility>
+#include <vector>
 
 namespace mirelle::bench {
 namespace {
@@ -112,10 +115,8 @@ void AddNoise(Bitmap& bitmap, std::mt19937& random) {
     }
 }
 
-} // namespace
-
-Bitmap MakePhotograph(int width, int height) {
-    std::mt19937 random(1);
+Bitmap Computed(int width, int height, unsigned seed) {
+    std::mt19937 random(seed);
     const Ground ground(width, height);
     Bitmap bitmap = Bitmap::Unwritten(width, height);
     for (int y = 0; y < height; ++y) {
@@ -128,6 +129,44 @@ Bitmap MakePhotograph(int width, int height) {
         Tint(bitmap, RandomShape(random, width, height));
     AddNoise(bitmap, random);
     return bitmap;
+}
+
+Bitmap Tiled(const Bitmap& tile, int width, int height) {
+    Bitmap bitmap = Bitmap::Unwritten(width, height);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            bitmap.At(x, y) = tile.At(x % tile.Width(), y % tile.Height());
+            bitmap.At(x, y).fourth = 255;
+        }
+    }
+    return bitmap;
+}
+
+struct Origin {
+    unsigned seed = 1;
+    Bitmap picture; // empty: the seed counts
+};
+
+Origin& TheOrigin() {
+    static Origin origin;
+    return origin;
+}
+
+} // namespace
+
+void MakePhotographsFrom(unsigned seed) {
+    TheOrigin().seed = seed;
+}
+
+void MakePhotographsFrom(Bitmap picture) {
+    if (picture.IsEmpty()) throw std::runtime_error("a picture without pixels");
+    TheOrigin().picture = std::move(picture);
+}
+
+Bitmap MakePhotograph(int width, int height) {
+    const Origin& origin = TheOrigin();
+    return origin.picture.IsEmpty() ? Computed(width, height, origin.seed)
+                                    : Tiled(origin.picture, width, height);
 }
 
 const Picture& PhotographPicture() {

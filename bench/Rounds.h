@@ -9,7 +9,7 @@
 namespace mirelle::bench {
 
 struct Times {
-    double ours = 0;           // seconds
+    double ours = 0;           // in the measure's unit, as a run tells
     std::vector<double> peers; // in the contest's order; infinite where the peer is missing
     int rounds = 0;
 };

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstdio>
 #include <ctime>
+#include <exception>
 #include <fstream>
 
 #include <unistd.h>
@@ -70,11 +71,12 @@ void Table::PrintHead() const {
                 ::sysconf(_SC_NPROCESSORS_ONLN), __VERSION__);
     for (const std::string& version : PeerVersions())
         std::printf("beside: %s\n", version.c_str());
+    std::printf("on: %s\n", manner_.picture.c_str());
     std::printf(
         "Ours and what stands beside it take turns. The least wall time of each counts, and the ratio is "
         "that of the least times.\n"
-        "All threads of the program are kept on one core, but where a row says all cores, and for what a "
-        "window shows, for starts and for keys.\n\n");
+        "All threads of the program are kept on one core, but where a row says all cores, and for clicks in "
+        "a folder, starts, memory and keys.\n\n");
     PrintRow("measure", "ours", "beside", "its time", "ratio", "aim", "");
 }
 
@@ -82,9 +84,26 @@ void Table::PrintTitle(const std::string& title) const {
     std::printf("\n%s\n", title.c_str());
 }
 
+// Whatever goes wrong is a fault of its row: the others still come.
 void Table::Run(const Measure& measure) {
-    Contest contest = measure.prepare();
-    if (manner_.alone) contest.peers = {{"nothing", 0, [] { return 1.0; }}};
+    try {
+        const Contest contest = measure.prepare();
+        RunPrepared(measure, contest);
+        if (contest.ours) PrintFault(contest.fault());
+    } catch (const std::exception& error) {
+        PrintRow(measure.name, "-", "", "", "", "", "");
+        PrintFault(error.what());
+    }
+}
+
+void Table::RunPrepared(const Measure& measure, const Contest& contest) {
+    if (manner_.alone) {
+        const Contest alone{.ours = contest.ours, .peers = {}};
+        const Times times = contest.ours ? RunRounds(alone, measure.cores, manner_.seconds) : Times{};
+        const std::string ours = contest.ours ? AmountText(times.ours, measure.unit) : "-";
+        PrintRow(measure.name, ours, "", "", "", "", contest.ours ? "" : "not on this machine");
+        return;
+    }
     const Times times = contest.ours ? RunRounds(contest, measure.cores, manner_.seconds) : Times{};
     for (std::size_t i = 0; i < contest.peers.size(); ++i) {
         const Peer& peer = contest.peers[i];
@@ -105,17 +124,18 @@ void Table::Run(const Measure& measure) {
                  AmountText(times.peers[i], measure.unit), RatioText(ratio), aim,
                  peer.aim > 0 ? met ? "met" : "MISSED" : "");
     }
-    if (!contest.ours) return;
-    if (const std::string fault = contest.fault(); !fault.empty()) {
-        ++faults_;
-        std::printf("    FAULT: %s\n", fault.c_str());
-    }
+}
+
+void Table::PrintFault(const std::string& fault) {
+    if (fault.empty()) return;
+    ++faults_;
+    std::printf("    FAULT: %s\n", fault.c_str());
 }
 
 void Table::PrintSum() const {
     std::printf("\n%d of %d aims met", met_, aims_);
     if (missing_ > 0) std::printf("; %d rows lack their peer on this machine", missing_);
-    if (faults_ > 0) std::printf("; %d RESULTS ARE WRONG", faults_);
+    if (faults_ > 0) std::printf("; %d FAULTS", faults_);
     std::printf(".\n");
 }
 

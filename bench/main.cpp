@@ -1,59 +1,37 @@
-// mirelle_bench [--list] [--alone] [--seconds S] [FILTER]: how fast the program is, in one table, beside what
-// people would otherwise use and beside what the machine allows.
+// mirelle_bench [--list] [--alone] [--seconds S] [--seed N] [--picture FILE] [FILTER]: how fast the program
+// is, in one table, beside what people would otherwise use and beside what the machine allows.
 //
 // FILTER keeps the rows whose group or name holds that text, without regard to case. --list names the
 // measures. --seconds is how long the rounds of a measure go on, at least a few rounds; 1 unless told
-// otherwise. --alone runs our side without the peers, for a profiler.
+// otherwise. --alone runs our side without the peers, for a profiler. --seed makes another picture to measure
+// on, --picture takes one of the user's own.
 //
-// The exit status tells whether every result was right. How fast it was changes nothing about that.
+// The exit status tells whether everything could be run, and whether what came out was right: pictures, files
+// and texts are compared with what they have to be. Starts, moves of the mouse and memory are only measured.
+// How fast it was changes nothing about the status.
+#include "bench/Photograph.h"
 #include "bench/Rows.h"
 #include "bench/Table.h"
+#include "bench/Wishes.h"
 #include "desktop/look/Look.h"
+#include "desktop/pictures/QtImages.h"
 
-#include <algorithm>
-#include <cctype>
 #include <cstdio>
-#include <cstring>
 #include <string>
 
 #include <QApplication>
+#include <QImage>
 
 namespace {
 
 using namespace mirelle::bench;
 
-struct Wishes {
-    bool list = false;
-    Manner manner;
-    std::string filter;
-};
-
-std::string Lower(std::string text) {
-    std::ranges::transform(text, text.begin(), [](unsigned char c) { return std::tolower(c); });
-    return text;
-}
-
-Wishes WishesOf(int count, char** arguments) {
-    Wishes wishes;
-    for (int i = 1; i < count; ++i) {
-        if (std::strcmp(arguments[i], "--list") == 0)
-            wishes.list = true;
-        else if (std::strcmp(arguments[i], "--seconds") == 0 && i + 1 < count)
-            wishes.manner.seconds = std::stod(arguments[++i]);
-        else if (std::strcmp(arguments[i], "--alone") == 0)
-            wishes.manner.alone = true;
-        else
-            wishes.filter = Lower(arguments[i]);
-    }
-    return wishes;
-}
-
 // The groups in the table's order, with the measures that the filter keeps.
 std::vector<Group> GroupsFor(const Wishes& wishes) {
-    std::vector<Group> groups{JpegRows(),        KernelRows(),   PointRows(), ContrastRows(),
-                              SmudgerRows(),     GradientRows(), PasteRows(), CropRows(),
-                              PhotographRows(),  FolderRows(),   StartRows(), MemoryRows(),
-                              EffectClickRows(), KeysRows()};
+    std::vector<Group> groups{JpegRows(),        KernelRows(),     PointRows(), ContrastRows(),
+                              SmudgerRows(),     GradientRows(),   PasteRows(), CropRows(),
+                              PhotographRows(),  FolderRows(),     StartRows(), MemoryRows(),
+                              KernelClickRows(), PointClickRows(), KeysRows()};
     for (Group& group : groups) {
         std::erase_if(group.measures, [&](const Measure& measure) {
             return Lower(group.title + ' ' + measure.name).find(wishes.filter) == std::string::npos;
@@ -63,24 +41,29 @@ std::vector<Group> GroupsFor(const Wishes& wishes) {
     return groups;
 }
 
-} // namespace
-
-int main(int count, char** arguments) {
-    const Wishes wishes = WishesOf(count, arguments);
-    const std::vector<Group> groups = GroupsFor(wishes);
-    if (wishes.list) {
-        for (const Group& group : groups) {
-            for (const Measure& measure : group.measures)
-                std::printf("%s: %s\n", group.title.c_str(), measure.name.c_str());
-        }
-        return 0;
+void PrintNames(const std::vector<Group>& groups) {
+    for (const Group& group : groups) {
+        for (const Measure& measure : group.measures)
+            std::printf("%s: %s\n", group.title.c_str(), measure.name.c_str());
     }
-    // The program's window is painted in memory: a screen has a pace of its own.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(count, arguments);
-    mirelle::look::ApplyLook(application);
+}
 
-    Table table(wishes.manner);
+// False where the user's own picture can't be read.
+bool ChoosePicture(Wishes& wishes) {
+    if (wishes.pictureFile.empty()) {
+        MakePhotographsFrom(wishes.seed);
+        wishes.manner.picture = "a picture made here, seed " + std::to_string(wishes.seed);
+        return true;
+    }
+    const QImage image(QString::fromStdString(wishes.pictureFile));
+    if (image.isNull()) return false;
+    MakePhotographsFrom(mirelle::OpaqueBitmap(image));
+    wishes.manner.picture = wishes.pictureFile;
+    return true;
+}
+
+bool RunAll(const std::vector<Group>& groups, const Manner& manner) {
+    Table table(manner);
     table.PrintHead();
     for (const Group& group : groups) {
         table.PrintTitle(group.title);
@@ -88,5 +71,34 @@ int main(int count, char** arguments) {
             table.Run(measure);
     }
     table.PrintSum();
-    return table.AllHold() ? 0 : 1;
+    return table.AllHold();
+}
+
+} // namespace
+
+int main(int count, char** arguments) {
+    std::optional<Wishes> wishes = WishesOf(count, arguments);
+    if (!wishes) {
+        std::fprintf(stderr, "mirelle_bench [--list] [--alone] [--seconds S] [--seed N] [--picture FILE] "
+                             "[FILTER]\n");
+        return 2;
+    }
+    const std::vector<Group> groups = GroupsFor(*wishes);
+    if (groups.empty()) {
+        std::fprintf(stderr, "No measure has \"%s\" in its name: see --list\n", wishes->filter.c_str());
+        return 2;
+    }
+    if (wishes->list) {
+        PrintNames(groups);
+        return 0;
+    }
+    // The program's window is painted in memory: a screen has a pace of its own.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(count, arguments);
+    if (!ChoosePicture(*wishes)) {
+        std::fprintf(stderr, "%s can't be read as a picture\n", wishes->pictureFile.c_str());
+        return 2;
+    }
+    mirelle::look::ApplyLook(application);
+    return RunAll(groups, wishes->manner) ? 0 : 1;
 }

@@ -44,21 +44,33 @@ Contest Crop() {
             }};
 }
 
+struct Dragged {
+    test::TestProgram program;
+    explicit Dragged(int width) {
+        FrmPicX& form = program.form;
+        form.PicImage.Picture = Picture(Bitmap(width, width * kHeight / kWidth));
+        form.Picture = form.PicImage.Picture;
+        form.MouseDown({kLeftButton, 0, 10, 10});
+    }
+};
+
 // A thousand moves, each to another place.
-Run MovesOver(int width) {
-    const auto program = std::make_shared<TestProgram>();
-    FrmPicX& form = program->form;
-    form.PicImage.Picture = Picture(Bitmap(width, width * kHeight / kWidth));
-    form.Picture = form.PicImage.Picture;
-    form.MouseDown({kLeftButton, 0, 10, 10});
-    return Timed([program] {
-        for (int move = 0; move < kMoves; ++move)
-            program->form.MouseMove({kLeftButton, 0, static_cast<float>(20 + move), 300});
+Run MovesOf(const std::shared_ptr<Dragged>& dragged) {
+    return Timed([dragged] {
+        for (int move = 1; move <= kMoves; ++move)
+            dragged->program.form.MouseMove({kLeftButton, 0, static_cast<float>(20 + move), 300});
     });
 }
 
 Contest Moves() {
-    return {.ours = MovesOver(kWidth), .peers = {{"the same over 480 x 270", 1.3, MovesOver(480)}}};
+    const auto ours = std::make_shared<Dragged>(kWidth);
+    return {.ours = MovesOf(ours),
+            .peers = {{"the same over 480 x 270", 1.3, MovesOf(std::make_shared<Dragged>(480))}},
+            .fault = [ours]() -> std::string {
+                const Shape& line = ours->program.form.Shape1;
+                const bool follows = line.Visible && line.Width == 10.0F + kMoves && line.Height == 290.0F;
+                return follows ? "" : "the hairline is not where the mouse is";
+            }};
 }
 
 } // namespace

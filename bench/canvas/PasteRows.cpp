@@ -1,11 +1,14 @@
 // From a picture on the clipboard to the painted canvas, with all holders filled, beside one copy of the
-// picture into new memory and one paint of it in a window of the same size.
+// picture and one paint of it in a window of the same size. Both copy into memory in the same state: that of
+// the first paste is fresh from the system, that of every later one the program has kept, and so has its
+// peer.
 #include "bench/canvas/Grab.h"
 #include "bench/Rows.h"
+#include "bench/SameColours.h"
+#include "bench/Target.h"
 #include "bench/window/PlainPaint.h"
 #include "bench/window/WindowedProgram.h"
 
-#include <algorithm>
 #include <cstring>
 #include <memory>
 
@@ -17,32 +20,45 @@ namespace {
 
 constexpr double kTimesCopyAndPaint = 1.5;
 
+// The first fills the empty holders, the second is copied while they hold the first; from then on the program
+// has a block of memory to spare.
+constexpr int kPastesBeforeALaterOne = 2;
+
 struct Scene {
+    explicit Scene(Memory state) : memory(state), target(kPictureBytes, state) {}
+
+    Memory memory;
+    Target target;
     QImage grab = MakeGrab();
     WindowedProgram program;
     PlainPaint plain{grab};
 };
 
-// A new grab each time: nothing is kept of the one before.
-double Paste(Scene& scene) {
+// The clipboard tells of a new picture: nothing is kept of the one before.
+void GrabAnew(const Scene& scene) {
     QGuiApplication::clipboard()->setImage(scene.grab);
     PaintAll();
+}
+
+void PasteAndPaint(Scene& scene) {
+    scene.program.form.Command5.UserClick();
+    PaintAll();
+}
+
+double Paste(Scene& scene) {
+    GrabAnew(scene);
+    if (scene.memory == Memory::Fresh) GiveMemoryBack();
+    return Seconds([&] { PasteAndPaint(scene); });
+}
+
+double CopyAndPaint(Scene& scene) {
+    scene.target.Ready();
     return Seconds([&] {
-        scene.program.form.Command5.UserClick();
-        PaintAll();
+        const std::span<std::uint8_t> copy = scene.target.Bytes();
+        std::memcpy(copy.data(), scene.grab.constBits(), kPictureBytes);
+        Keep(copy.data());
+        scene.plain.Paint();
     });
-}
-
-void CopyAndPaint(Scene& scene) {
-    const auto bytes = std::make_unique_for_overwrite<std::uint8_t[]>(kPictureBytes);
-    std::memcpy(bytes.get(), scene.grab.constBits(), kPictureBytes);
-    Keep(bytes.get());
-    scene.plain.Paint();
-}
-
-// The fourth bytes of a picture count for nothing.
-bool SameColours(const Bitmap& a, const Bitmap& b) {
-    return std::ranges::equal(a.Pixels(), b.Pixels(), {}, ColorOf, ColorOf);
 }
 
 std::string FaultOf(const FrmPicX& form) {
@@ -53,18 +69,25 @@ std::string FaultOf(const FrmPicX& form) {
     return "";
 }
 
-Contest Prepare() {
-    const auto scene = std::make_shared<Scene>();
+Contest Prepare(Memory memory) {
+    const auto scene = std::make_shared<Scene>(memory);
+    for (int paste = 0; paste < kPastesBeforeALaterOne; ++paste) {
+        GrabAnew(*scene);
+        PasteAndPaint(*scene);
+    }
     return {.ours = [scene] { return Paste(*scene); },
             .peers = {{"one copy of the picture and one paint", kTimesCopyAndPaint,
-                       Timed([scene] { CopyAndPaint(*scene); })}},
+                       [scene] { return CopyAndPaint(*scene); }}},
             .fault = [scene] { return FaultOf(scene->program.form); }};
 }
 
 } // namespace
 
 Group PasteRows() {
-    return {"Paste", {{"from clipboard data to the painted canvas", Prepare, Cores::All}}};
+    Group group{"From clipboard data to the painted canvas", {}};
+    AddOnAllCoresAndOne(group, "the first paste", [](Cores) { return Prepare(Memory::Fresh); });
+    AddOnAllCoresAndOne(group, "each later paste", [](Cores) { return Prepare(Memory::Kept); });
+    return group;
 }
 
 } // namespace mirelle::bench

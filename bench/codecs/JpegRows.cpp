@@ -74,9 +74,9 @@ Contest Prepare(const Settings& settings, double aim) {
 Group JpegRows() {
     Group group{"cJPEG, sample and save", {}};
     const auto add = [&](const std::string& name, const Settings& settings, const Aims& aims) {
-        group.measures.push_back(
-            {name + ", all cores", [=] { return Prepare(settings, aims.allCores); }, Cores::All});
-        group.measures.push_back({name + ", one core", [=] { return Prepare(settings, aims.oneCore); }});
+        AddOnAllCoresAndOne(group, name, [=](Cores cores) {
+            return Prepare(settings, cores == Cores::All ? aims.allCores : aims.oneCore);
+        });
     };
     add("quality 100, 2,2,1,1,1,1", {100, 2}, {0.4, 0.7}); // what the program saves with
     add("quality 100, 1,1,1,1,1,1", {100, 1}, {});

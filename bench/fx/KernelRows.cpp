@@ -24,20 +24,13 @@ double AimOf(Kernel kernel) {
     return kNearCopy;
 }
 
-EffectRun RunOf(const KernelSet& set, const KernelButton& button) {
-    return [&set, &button](const Bitmap& source, Bitmap& destination) {
-        (set.*button.kernel)({source.Pixels(), destination.Pixels(), source.Width(), source.Height()},
-                             button.arguments);
-    };
-}
-
 } // namespace
 
 Group KernelRows() {
     Group group{"Image FX: kernels", {}};
     const auto add = [&](std::string_view name, const KernelButton& button) {
         group.measures.push_back(MeasureOf({std::string(name), AimOf(button.kernel),
-                                            RunOf(kFastKernels, button), RunOf(kPlainKernels, button)}));
+                                            [&button](FXForm form) { return RunOf(button, form); }}));
     };
     for (const KernelButton& button : kKernelButtons)
         add(button.toolTip, button);

@@ -12,8 +12,8 @@ namespace {
 // Names that share one file as far as the file system lets them.
 constexpr int kNamesOfAFile = 10000;
 
-void Fill(const test::TemporaryFolder& home, const std::string& folder, int files,
-          const std::vector<std::uint8_t>& picture) {
+void Fill(const test::TemporaryFolder& home, const std::string& folder, int files) {
+    const std::vector<std::uint8_t> picture = SmallPictureFile();
     home.MakeFolder(folder);
     std::string shared;
     for (int step = 0; step < files; ++step) {
@@ -31,10 +31,16 @@ void Fill(const test::TemporaryFolder& home, const std::string& folder, int file
 
 } // namespace
 
-void FillLibrary(const test::TemporaryFolder& home) {
-    const std::vector<std::uint8_t> picture = PlainJpegFile(MakePhotograph(64, 64), 75);
-    Fill(home, "Support/Materials/Art", kFiles, picture);
-    Fill(home, "Support/Materials/Metal", kFewFiles, picture);
+std::vector<std::uint8_t> SmallPictureFile() {
+    return PlainJpegFile(MakePhotograph(64, 64), 75);
+}
+
+void FillArt(const test::TemporaryFolder& home) {
+    Fill(home, "Support/Materials/Art", kFiles);
+}
+
+void FillMetal(const test::TemporaryFolder& home) {
+    Fill(home, "Support/Materials/Metal", kFewFiles);
 }
 
 } // namespace mirelle::bench

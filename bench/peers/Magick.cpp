@@ -11,22 +11,17 @@ namespace {
 
 using Wand = std::unique_ptr<MagickWand, decltype(&DestroyMagickWand)>;
 
-struct Effect {
-    std::string name; // as ImageMagick calls it
-    std::function<void(MagickWand*)> run;
-};
+using Effect = void (*)(MagickWand* wand);
 
 const std::map<std::string, Effect>& Effects() {
     static const std::map<std::string, Effect> effects{
-        {"Blur", {"ImageMagick: blur", [](MagickWand* wand) { MagickBlurImage(wand, 1, 0.5); }}},
-        {"Silk",
-         {"ImageMagick: posterize", [](MagickWand* wand) { MagickPosterizeImage(wand, 4, MagickFalse); }}},
-        {"Flatten", {"ImageMagick: edge", [](MagickWand* wand) { MagickEdgeImage(wand, 1); }}},
-        {"Flatten2", {"ImageMagick: emboss", [](MagickWand* wand) { MagickEmbossImage(wand, 1, 0.5); }}},
-        {"Vivid",
-         {"ImageMagick: solarize", [](MagickWand* wand) { MagickSolarizeImage(wand, QuantumRange / 3.0); }}},
-        {"Pixelated", {"ImageMagick: oil paint", [](MagickWand* wand) { MagickOilPaintImage(wand, 1); }}},
-        {"Emboss", {"ImageMagick: emboss", [](MagickWand* wand) { MagickEmbossImage(wand, 1, 0.5); }}},
+        {"Blur", [](MagickWand* wand) { MagickBlurImage(wand, 1, 0.5); }},
+        {"Silk", [](MagickWand* wand) { MagickPosterizeImage(wand, 4, MagickFalse); }},
+        {"Flatten", [](MagickWand* wand) { MagickEdgeImage(wand, 1); }},
+        {"Flatten2", [](MagickWand* wand) { MagickEmbossImage(wand, 1, 0.5); }},
+        {"Vivid", [](MagickWand* wand) { MagickSolarizeImage(wand, QuantumRange / 3.0); }},
+        {"Pixelated", [](MagickWand* wand) { MagickOilPaintImage(wand, 1); }},
+        {"Emboss", [](MagickWand* wand) { MagickEmbossImage(wand, 1, 0.5); }},
     };
     return effects;
 }
@@ -51,14 +46,13 @@ MagickWand* Source() {
 
 } // namespace
 
-std::optional<Peer> MagickPeer(const std::string& effect) {
-    const auto found = Effects().find(effect);
-    if (found == Effects().end()) return std::nullopt;
+Run MagickRun(const std::string& effect) {
+    const Effect run = Effects().at(effect);
     Start();
-    return Peer{found->second.name, 1, Timed([&run = found->second.run] {
-                    const Wand wand(CloneMagickWand(Source()), &DestroyMagickWand);
-                    run(wand.get());
-                })};
+    return Timed([run] {
+        const Wand wand(CloneMagickWand(Source()), &DestroyMagickWand);
+        run(wand.get());
+    });
 }
 
 std::string VersionOfMagick() {

@@ -3,8 +3,8 @@
 
 namespace mirelle::bench {
 
-std::optional<Peer> MagickPeer(const std::string&) {
-    return std::nullopt;
+Run MagickRun(const std::string&) {
+    return {};
 }
 
 std::string VersionOfMagick() {

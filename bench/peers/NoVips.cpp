@@ -3,8 +3,8 @@
 
 namespace mirelle::bench {
 
-std::optional<Peer> VipsPeer(const std::string&) {
-    return Peer{"libvips", 1, {}};
+Run VipsRun(const std::string&) {
+    return {};
 }
 
 std::string VersionOfVips() {

@@ -17,6 +17,10 @@ std::optional<Peer> VipsPeer(const std::string& effect);
 // ImageMagick, for what libvips lacks or does otherwise; one thread.
 std::optional<Peer> MagickPeer(const std::string& effect);
 
+// What the two above run; empty where the library is not on this machine.
+Run VipsRun(const std::string& effect);
+Run MagickRun(const std::string& effect);
+
 // The libraries' names and versions, and how they are set.
 std::string VersionOfLibJpeg();
 std::string VersionOfVips();

@@ -18,10 +18,7 @@ namespace {
 
 using vips::VImage;
 
-struct Effect {
-    std::string operation; // the library's name for it
-    std::function<VImage(const VImage&)> run;
-};
+using Effect = std::function<VImage(const VImage&)>;
 
 constexpr int kBands = 3;
 constexpr int kStrip = 16; // rows that are worked out at a time
@@ -34,11 +31,11 @@ std::uint8_t Byte(double value) {
 }
 
 Effect Through(const std::vector<std::uint8_t>& table) {
-    return {"maplut", [table](const VImage& image) {
-                return image.maplut(
-                    VImage::new_from_memory(const_cast<std::uint8_t*>(table.data()), table.size(), 256, 1,
-                                            static_cast<int>(table.size() / 256), VIPS_FORMAT_UCHAR));
-            }};
+    return [table](const VImage& image) {
+        return image.maplut(VImage::new_from_memory(const_cast<std::uint8_t*>(table.data()), table.size(),
+                                                    256, 1, static_cast<int>(table.size() / 256),
+                                                    VIPS_FORMAT_UCHAR));
+    };
 }
 
 Effect Each(const std::function<double(double)>& value) {
@@ -57,9 +54,9 @@ Effect Add(int blue, int green, int red) {
 }
 
 Effect Only(double blue, double green, double red) {
-    return {"boolean_const", [=](const VImage& image) {
-                return image.boolean_const(VIPS_OPERATION_BOOLEAN_AND, {blue, green, red});
-            }};
+    return [=](const VImage& image) {
+        return image.boolean_const(VIPS_OPERATION_BOOLEAN_AND, {blue, green, red});
+    };
 }
 
 struct Mask {
@@ -71,31 +68,33 @@ struct Mask {
 };
 
 Effect Convolve(Mask mask) {
-    return {"conv", [mask](const VImage& image) {
-                VImage matrix =
-                    VImage::new_matrix(mask.width, mask.height, const_cast<double*>(mask.factors.data()),
-                                       static_cast<int>(mask.factors.size()));
-                matrix.set("scale", mask.scale);
-                matrix.set("offset", mask.offset);
-                return image.conv(matrix, VImage::option()->set("precision", VIPS_PRECISION_INTEGER));
-            }};
+    return [mask](const VImage& image) {
+        VImage matrix = VImage::new_matrix(mask.width, mask.height, const_cast<double*>(mask.factors.data()),
+                                           static_cast<int>(mask.factors.size()));
+        matrix.set("scale", mask.scale);
+        matrix.set("offset", mask.offset);
+        return image.conv(matrix, VImage::option()->set("precision", VIPS_PRECISION_INTEGER));
+    };
 }
 
 Effect Swap(int blue, int green, int red) {
-    return {"bandjoin", [=](const VImage& image) {
-                return VImage::bandjoin({image[blue], image[green], image[red]});
-            }};
+    return [=](const VImage& image) { return VImage::bandjoin({image[blue], image[green], image[red]}); };
 }
 
-Effect Grey() {
-    return {
-        "recomb", [](const VImage& image) {
-            return image.recomb(VImage::new_matrixv(kBands, 1, 0.071, 0.707, 0.222)).cast(VIPS_FORMAT_UCHAR);
-        }};
+VImage Grey(const VImage& image) {
+    return image.recomb(VImage::new_matrixv(kBands, 1, 0.071, 0.707, 0.222)).cast(VIPS_FORMAT_UCHAR);
+}
+
+VImage Invert(const VImage& image) {
+    return image.invert();
+}
+
+VImage ShrinkAndZoom(const VImage& image) {
+    return image.shrink(2, 2).zoom(2, 2);
 }
 
 Effect Flip(VipsDirection direction) {
-    return {"flip", [=](const VImage& image) { return image.flip(direction); }};
+    return [=](const VImage& image) { return image.flip(direction); };
 }
 
 Effect Contrast(double percent) {
@@ -124,17 +123,17 @@ const std::map<std::string, Effect>& Effects() {
         {"Flatten", Convolve({1, 3, {5, 0, -5}, 2})},
         {"Flatten2", Convolve({2, 2, {1, 0, 0, -1}, 2, 100})},
         {"Neon Negate", Each([](double c) { return 255 - std::min(std::abs((255 - 3 * c) * 1.2), 255.0); })},
-        {"Negate", {"invert", [](const VImage& image) { return image.invert(); }}},
+        {"Negate", Invert},
         {"Negate More", Each([](double c) { return 255 - std::min(3 * c / 1.2, 255.0); })},
         {"Incoherence", Swap(2, 1, 0)},
-        {"Pixelated", {"shrink and zoom", [](const VImage& image) { return image.shrink(2, 2).zoom(2, 2); }}},
+        {"Pixelated", ShrinkAndZoom},
         {"Darken", Add(-50, -50, -50)},
         {"Lighten", Add(50, 50, 50)},
         {"Emboss", Convolve({2, 2, {1, 0, 0, -1}, 1, 100})},
-        {"Invert", {"invert", [](const VImage& image) { return image.invert(); }}},
+        {"Invert", Invert},
         {"Flip Vertical", Flip(VIPS_DIRECTION_VERTICAL)},
         {"Flip Horizontal", Flip(VIPS_DIRECTION_HORIZONTAL)},
-        {"Grey Scale", Grey()},
+        {"Grey Scale", Grey},
         {"RGB>BGR", Swap(2, 1, 0)},
         {"RGB>BRG", Swap(1, 2, 0)},
         {"RGB>GBR", Swap(2, 0, 1)},
@@ -192,13 +191,11 @@ void WorkOut(const VImage& pipeline, std::span<std::uint8_t> target) {
 
 } // namespace
 
-std::optional<Peer> VipsPeer(const std::string& effect) {
-    const auto found = Effects().find(effect);
-    if (found == Effects().end()) return std::nullopt;
+Run VipsRun(const std::string& effect) {
+    const Effect& run = Effects().at(effect);
     Start();
     const auto target = std::make_shared<std::vector<std::uint8_t>>(kPictureBytes);
-    return Peer{"libvips: " + found->second.operation, 1,
-                Timed([&run = found->second.run, target] { WorkOut(run(Source()), *target); })};
+    return Timed([&run, target] { WorkOut(run(Source()), *target); });
 }
 
 std::string VersionOfVips() {
