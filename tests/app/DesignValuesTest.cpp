@@ -100,6 +100,30 @@ TEST_F(DesignValues, HoldersShowPixelsOrTwips) {
     }
 }
 
+TEST_F(DesignValues, FramesStandAsTheyWereDesigned) {
+    struct Place {
+        const Control& control;
+        float left, top, width, height;
+    };
+    const Place kPlaces[] = {
+        {form.Frame4, 338, -1, 270, 441},        {form.Frame5, -36, 440, 780, 62},
+        {form.Frame6, 608, -2, 92, 442},         {form.Frame7, 346, 277, 256, 164},
+        {form.Frame8, 338, 1, 270, 276},         {form.FramePics, 0, 0, 3945, 3650},
+        {form.FrameRGBFX, 0, 0, 9000, 1020},     {form.FrameGradFX, 0, 0, 9000, 1020},
+        {form.FrameMatCanvas, 0, 0, 3945, 3090}, {form.FrameMatCanvas2, 0, 0, 545, 222},
+        {form.FrShowFrames(0), 24, 24, 56, 44},  {form.PicScroll, 0, 0, 260, 222},
+        {form.Shape1, 0, 0, 200, 200},           {form.Shape2, 0, 0, 200, 200},
+        {form.Shape3, 0, 0, 150, 195},           {form.List2, 75, 0, 3835, 2400},
+        {form.File5, 0, 0, 3000, 1395},
+    };
+    for (const Place& place : kPlaces) {
+        EXPECT_EQ(place.control.Left, place.left) << place.control.Name();
+        EXPECT_EQ(place.control.Top, place.top) << place.control.Name();
+        EXPECT_EQ(place.control.Width, place.width) << place.control.Name();
+        EXPECT_EQ(place.control.Height, place.height) << place.control.Name();
+    }
+}
+
 TEST_F(DesignValues, NamesAreEachAControlsOwn) {
     std::set<std::string> names;
     for (const Control* control : form.Controls())

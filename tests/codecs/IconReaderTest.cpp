@@ -87,6 +87,8 @@ TEST(IconReader, TakesTheLargestThenTheDeepestPicture) {
     EXPECT_EQ(Read(IconBytes({{2, 2, 24, Triples()}, {1, 1, 24, small}})).size(), 4u);
     EXPECT_EQ(Read(IconBytes({{255, 255, 24, Triples()}, {0, 0, 24, small}})),
               (Colours{0x010101})); // 0 is 256
+    EXPECT_EQ(Read(IconBytes({{20, 20, 24, Triples()}, {0, 2, 24, small}})), (Colours{0x010101}));
+    EXPECT_EQ(Read(IconBytes({{20, 20, 24, Triples()}, {2, 0, 24, small}})), (Colours{0x010101}));
     EXPECT_EQ(Read(IconBytes({{1, 1, 8, small}, {1, 1, 24, other}})), (Colours{0x020202}));
 }
 
