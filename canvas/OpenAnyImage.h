@@ -8,7 +8,9 @@ namespace mirelle {
 
 class FrmPicX;
 
-// Asks for a file and hands its name on. A cancelled dialog hands on the name that was chosen last.
+// Asks for a file and hands its name on. A cancelled dialog hands on the name that was chosen last; once
+// another use of the dialog has asked for an error at that (opening to the canvas, choosing a colour), it
+// raises 32755.
 void OpenAnyImage(FrmPicX& form);
 
 // The last three letters of the name decide. What the picture loader knows goes through it, "TIF" through the

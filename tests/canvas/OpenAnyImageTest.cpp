@@ -79,11 +79,30 @@ TEST_F(OpenAnyImageTest, OpensWhatWasChosen) {
     EXPECT_TRUE(form.picSmall.Picture().SharesPixelsWith(wall));
 }
 
+TEST_F(OpenAnyImageTest, OpensTheLastChoiceAgainAtACancel) {
+    program.loader.pictures["D:\\a.jpg"] = wall;
+    program.desktop.dialogs.openAnswers.push_back("D:\\a.jpg");
+    OpenAnyImage(form);
+    form.picSmall.Picture = former;
+    OpenAnyImage(form); // nobody answers this one
+    EXPECT_TRUE(form.picSmall.Picture().SharesPixelsWith(wall));
+}
+
+TEST_F(OpenAnyImageTest, RaisesTheCancelThatAnotherDialogAskedFor) {
+    form.Command23.Click();
+    EXPECT_EQ(ErrorOf([&] { OpenAnyImage(form); }), ErrorNumber::DialogCancelled);
+    EXPECT_TRUE(ShowsFormer());
+}
+
+TEST_F(OpenAnyImageTest, RaisesTheCancelThatAChoiceOfColourAskedFor) {
+    form.cmdColorDialog(0).Click();
+    EXPECT_EQ(ErrorOf([&] { OpenAnyImage(form); }), ErrorNumber::DialogCancelled);
+}
+
 TEST_F(OpenAnyImageTest, IsReachedByNoControl) {
     program.Start();
     program.desktop.dialogs.dialogs.clear();
     for (Control* control : form.Controls()) {
-        if (control == &form.cmdRefreshFile) continue;
         ResumeNext([&] { control->UserClick(); });
         ResumeNext([&] { control->UserDblClick(); });
     }
