@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace mirelle {
 namespace {
@@ -13,6 +14,21 @@ std::size_t BytesToCopy(const PixelFrame& frame, const Bitmap& bitmap) {
     if (frame.bytes.IsEmpty()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     const auto asked = static_cast<std::size_t>(std::max<std::int64_t>(frame.ByteCount(), 0));
     return std::min({asked, bitmap.ByteCount(), frame.bytes.Pixels().size_bytes()});
+}
+
+// Pixel& or const Pixel&.
+template <class APixel>
+auto& Channel(APixel& pixel, int channel) {
+    switch (channel) {
+    case 0:
+        return pixel.blue;
+    case 1:
+        return pixel.green;
+    case 2:
+        return pixel.red;
+    default:
+        return pixel.fourth;
+    }
 }
 
 } // namespace
@@ -35,12 +51,37 @@ void PixelArray::Redim(const BitmapRecord& record) {
     if (!sound) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     width_ = record.bmWidth;
     height_ = record.bmHeight;
-    pixels_ = Bitmap();
+    shared_ = {};
+    own_ = {};
 }
 
-Bitmap& PixelArray::Bytes() const {
-    if (pixels_.IsEmpty()) pixels_ = Bitmap(width_, height_);
-    return pixels_;
+const Bitmap& PixelArray::Bytes() const {
+    if (!shared_.IsEmpty()) return shared_.Pixels();
+    if (own_.IsEmpty()) own_ = Bitmap(width_, height_);
+    return own_;
+}
+
+Bitmap& PixelArray::OwnBytes() {
+    if (own_.IsEmpty()) {
+        own_ = shared_.IsEmpty() ? Bitmap(width_, height_) : shared_.CopyBitmap();
+        shared_ = {};
+    }
+    return own_;
+}
+
+void PixelArray::Share(const Picture& picture) {
+    shared_ = picture;
+    own_ = {};
+}
+
+Picture PixelArray::Share() {
+    if (shared_.IsEmpty()) shared_ = Picture(std::exchange(OwnBytes(), {}));
+    return shared_;
+}
+
+void PixelArray::ForgetElements() {
+    if (own_.IsEmpty()) own_ = Bitmap::Unwritten(width_, height_);
+    shared_ = {};
 }
 
 void PixelArray::CheckSubscripts(int channel, int x, int y) const {
@@ -50,21 +91,12 @@ void PixelArray::CheckSubscripts(int channel, int x, int y) const {
 
 std::uint8_t& PixelArray::At(int channel, int x, int y) {
     CheckSubscripts(channel, x, y);
-    Pixel& pixel = Bytes().At(x, y);
-    switch (channel) {
-    case 0:
-        return pixel.blue;
-    case 1:
-        return pixel.green;
-    case 2:
-        return pixel.red;
-    default:
-        return pixel.fourth;
-    }
+    return Channel(OwnBytes().At(x, y), channel);
 }
 
 std::uint8_t PixelArray::At(int channel, int x, int y) const {
-    return const_cast<PixelArray&>(*this).At(channel, x, y);
+    CheckSubscripts(channel, x, y);
+    return Channel(Bytes().At(x, y), channel);
 }
 
 void PixelFrame::SizeFor(int width, int height) {
@@ -75,6 +107,11 @@ void PixelFrame::SizeFor(int width, int height) {
 void GetBitmapBits(const Bitmap& from, PixelFrame& to) {
     const std::size_t count = BytesToCopy(to, from);
     if (count != 0) std::memcpy(to.bytes.Pixels().data(), from.Pixels().data(), count);
+}
+
+void GetBitmapBits(const Picture& from, PixelFrame& to) {
+    if (to.IsAllOf(from.Width(), from.Height())) return to.bytes.Share(from);
+    GetBitmapBits(from.Pixels(), to);
 }
 
 void SetBitmapBits(Bitmap& to, const PixelFrame& from) {

@@ -52,18 +52,28 @@ public:
     std::uint8_t At(int channel, int x, int y) const;
 
     // The elements of one y, and all of them; y in 0..Height()-1, unchecked.
-    std::span<Pixel> Row(int y) { return Bytes().Row(y); }
-    std::span<const Pixel> Row(int y) const { return std::as_const(Bytes()).Row(y); }
-    std::span<Pixel> Pixels() { return Bytes().Pixels(); }
-    std::span<const Pixel> Pixels() const { return std::as_const(Bytes()).Pixels(); }
+    std::span<Pixel> Row(int y) { return OwnBytes().Row(y); }
+    std::span<const Pixel> Row(int y) const { return Bytes().Row(y); }
+    std::span<Pixel> Pixels() { return OwnBytes().Pixels(); }
+    std::span<const Pixel> Pixels() const { return Bytes().Pixels(); }
+
+    // The elements and a picture of the array's size can be one memory, which costs no copy: what is written
+    // afterwards goes into a copy of the array's own.
+    void Share(const Picture& picture);
+    Picture Share();
+    // For a writer who writes every element: they hold anything until then.
+    void ForgetElements();
 
 private:
     void CheckSubscripts(int channel, int x, int y) const;
-    Bitmap& Bytes() const;
+    const Bitmap& Bytes() const;
+    Bitmap& OwnBytes();
 
     int width_ = 0;
     int height_ = 0;
-    mutable Bitmap pixels_; // empty until it is needed
+    // At most one of the two holds the elements; neither as long as all of them are 0 and nobody has asked.
+    Picture shared_;
+    mutable Bitmap own_;
 };
 
 // A record and the array that was sized by it.
@@ -75,11 +85,20 @@ struct PixelFrame {
     void SizeFor(int width, int height);
     // bmWidthBytes x bmHeight, the bytes that GetBitmapBits and SetBitmapBits are asked for.
     std::int64_t ByteCount() const { return std::int64_t{info.bmWidthBytes} * info.bmHeight; }
+    // Whether the flat copies below, between the frame and a bitmap of that size, copy all that each of the
+    // two holds, row by row.
+    bool IsAllOf(int width, int height) const {
+        return !bytes.IsEmpty() && bytes.Width() == width && bytes.Height() == height &&
+               info.bmWidth == width && info.bmHeight == height &&
+               info.bmWidthBytes == std::int64_t{PixelArray::kChannels} * width;
+    }
 };
 
 // The flat copies between a bitmap and a frame, from byte 0 on: as many bytes as the frame's record tells,
 // and no more than either side has. Raise error 9 while the array has no elements.
 void GetBitmapBits(const Bitmap& from, PixelFrame& to);
 void SetBitmapBits(Bitmap& to, const PixelFrame& from);
+// The same from a picture, whose pixels the frame shares where they are all that it holds.
+void GetBitmapBits(const Picture& from, PixelFrame& to);
 
 } // namespace mirelle

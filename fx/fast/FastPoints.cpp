@@ -23,6 +23,11 @@ int PixelsOfRow(const PixelFrame& source, const PixelFrame& destination, int y, 
     return std::min({width, from.Width(), to.Width()});
 }
 
+// Every row is read and every element of the destination written, with 0 for its fourth byte.
+bool WritesAll(const PixelFrame& source, const PixelFrame& destination) {
+    return source.IsAllOf(destination.bytes.Width(), destination.bytes.Height());
+}
+
 // Runs work(from, to, pixels) on every row of the source's record, from the top. At the first pixel that lies
 // beyond a bound it raises error 9; what comes before it is written.
 template <class SourceRow, class Work>
@@ -30,6 +35,7 @@ void EachRow(const PixelFrame& source, PixelFrame& destination, ReadOrder order,
              const Work& work) {
     const int width = source.info.bmWidth;
     if (width <= 0) return;
+    if (WritesAll(source, destination)) destination.bytes.ForgetElements();
     for (int y = 0; y < source.info.bmHeight; ++y) {
         const int sourceY = sourceRow(y);
         const int pixels = PixelsOfRow(source, destination, y, sourceY, order);

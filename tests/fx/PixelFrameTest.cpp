@@ -133,5 +133,60 @@ TEST(PixelFrameTest, BitsForASmallerPictureAreCut) {
     EXPECT_EQ(bitmap.At(1, 0), noise.At(1, 0));
 }
 
+TEST(PixelFrameTest, BitsOfAPictureOfItsOwnSizeAreSharedUntilTheyAreWritten) {
+    const Picture picture(NoiseBitmap(5, 4, 4));
+    PixelFrame frame = FrameFor(5, 4);
+    frame.bytes.At(0, 0, 0) = 99; // what it held before goes
+    GetBitmapBits(picture, frame);
+    EXPECT_TRUE(frame.bytes.Share().SharesPixelsWith(picture));
+    frame.bytes.At(2, 4, 3) = 77;
+    EXPECT_FALSE(frame.bytes.Share().SharesPixelsWith(picture));
+    EXPECT_EQ(picture.Pixels(), NoiseBitmap(5, 4, 4));
+    Bitmap expected = NoiseBitmap(5, 4, 4);
+    expected.At(4, 3).red = 77;
+    EXPECT_EQ(frame.bytes.Share().Pixels(), expected);
+}
+
+TEST(PixelFrameTest, BitsOfAPictureOfAnotherShapeAreCopied) {
+    const Picture picture(NoiseBitmap(4, 5, 5));
+    PixelFrame frame = FrameFor(5, 4);
+    GetBitmapBits(picture, frame);
+    EXPECT_EQ(frame.bytes.Width(), 5);
+    EXPECT_EQ(frame.bytes.Row(1)[0], picture.Pixels().At(1, 1));
+}
+
+TEST(PixelFrameTest, BitsOfARecordThatTellsFewerAreCopied) {
+    PixelFrame frame = FrameFor(2, 2);
+    frame.info.bmHeight = 1;
+    GetBitmapBits(Picture(Bitmap(2, 2, Pixel{1, 2, 3, 4})), frame);
+    EXPECT_EQ(frame.bytes.Row(0)[1], (Pixel{1, 2, 3, 4}));
+    EXPECT_EQ(frame.bytes.Row(1)[0], Pixel{});
+}
+
+TEST(PixelFrameTest, WhatAnArrayHandsOutIsNotChangedByWritesThatFollow) {
+    PixelFrame frame = FrameFor(3, 2);
+    frame.bytes.At(1, 2, 0) = 5;
+    const Picture handedOut = frame.bytes.Share();
+    frame.bytes.At(1, 2, 0) = 6;
+    EXPECT_EQ(handedOut.Pixels().At(2, 0).green, 5);
+    EXPECT_EQ(frame.bytes.At(1, 2, 0), 6);
+    const Picture second = frame.bytes.Share();
+    frame.bytes.ForgetElements();
+    frame.bytes.Row(0)[2] = {9, 9, 9, 9};
+    EXPECT_EQ(second.Pixels().At(2, 0).green, 6);
+}
+
+TEST(PixelFrameTest, AnArrayThatNobodyWroteHandsOutZeros) {
+    PixelFrame frame = FrameFor(3, 2);
+    EXPECT_EQ(frame.bytes.Share().Pixels(), Bitmap(3, 2));
+}
+
+TEST(PixelFrameTest, SizingForgetsWhatIsShared) {
+    PixelFrame frame = FrameFor(3, 2);
+    GetBitmapBits(Picture(Bitmap(3, 2, Pixel{9, 9, 9, 9})), frame);
+    frame.SizeFor(3, 2);
+    EXPECT_EQ(frame.bytes.At(0, 0, 0), 0);
+}
+
 } // namespace
 } // namespace mirelle::test

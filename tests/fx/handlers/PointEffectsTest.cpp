@@ -65,6 +65,20 @@ TEST_F(PointEffectsTest, UndoShowsTheResultAgain) {
     EXPECT_EQ(Canvas(), result);
 }
 
+// One memory holds the result for everyone; the effect after it writes into another.
+TEST_F(PointEffectsTest, TheResultIsSharedAndStaysAsItIs) {
+    Paste(ChartPicture(7, 4, 50));
+    form.cmdNegativeX.UserClick();
+    const Picture result = form.PicImage.Picture;
+    const Bitmap before = result.CopyBitmap();
+    EXPECT_TRUE(form.FXDest.bytes.Share().SharesPixelsWith(result));
+    EXPECT_TRUE(form.Picture1.Picture().SharesPixelsWith(result));
+    form.cmdFlipHoriz.UserClick();
+    EXPECT_TRUE(form.FXSource.bytes.Share().SharesPixelsWith(result));
+    EXPECT_EQ(result.Pixels(), before);
+    EXPECT_EQ(Canvas().At(0, 1), before.At(6, 1));
+}
+
 TEST_F(PointEffectsTest, TheSlidersStack) {
     Paste(Flat(100, 100, 100));
     form.HSColorShift(2).UserSet(10);
