@@ -58,14 +58,17 @@ double Decode(Scene& scene) {
     return Seconds([&] { Decode(scene, scene.target.Bytes()); });
 }
 
-std::string FaultOf(const Scene& scene) {
+// With the gradient's panel open the canvas shows the gradient.
+std::string FaultOf(const Scene& scene, bool gradientShown) {
     Bitmap decoded(kFileWidth, kFileHeight);
     Decode(scene, {reinterpret_cast<std::uint8_t*>(decoded.Pixels().data()), decoded.ByteCount()});
     const FrmPicX& form = scene.form;
-    for (const PictureBox* box : {&form.PicImage, &form.Picture1, &form.Pic1, &form.picSmall}) {
+    for (const PictureBox* box : {&form.Picture1, &form.Pic1, &form.Picture4, &form.picSmall}) {
         if (!SameColours(box->Picture().Pixels(), decoded)) return "a holder lacks the photograph";
     }
-    return SameColours(form.Picture().Pixels(), decoded) ? "" : "the canvas lacks the photograph";
+    const bool onCanvas = SameColours(form.PicImage.Picture().Pixels(), decoded) &&
+                          SameColours(form.Picture().Pixels(), decoded);
+    return onCanvas || gradientShown ? "" : "the canvas lacks the photograph";
 }
 
 Contest Prepare(Memory memory, double aim, bool gradientShown = false) {
@@ -77,8 +80,7 @@ Contest Prepare(Memory memory, double aim, bool gradientShown = false) {
     return {
         .ours = [scene] { return Click(*scene); },
         .peers = {{"one decoding by libjpeg-turbo", aim, [scene] { return Decode(*scene); }}},
-        // With the gradient's panel open the canvas shows the gradient.
-        .fault = [=] { return gradientShown ? std::string() : FaultOf(*scene); },
+        .fault = [=] { return FaultOf(*scene, gradientShown); },
     };
 }
 
