@@ -10,6 +10,7 @@
 #include <csetjmp>
 #include <cstddef>
 #include <cstdio>
+#include <new>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -139,15 +140,16 @@ bool JpegDecoder::ReadRows(Bitmap& bitmap, int begin, int end) {
     return true;
 }
 
-// In this thread where there is no other to be had.
+// In this thread where no other, or no memory for one, is to be had. The work raises nothing.
 template <class Work>
 std::jthread InAnotherThread(const Work& work) {
     try {
         return std::jthread(work);
     } catch (const std::system_error&) {
-        work();
-        return {};
+    } catch (const std::bad_alloc&) {
     }
+    work();
+    return {};
 }
 
 // The header has been read.
