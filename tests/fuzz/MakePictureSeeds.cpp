@@ -20,6 +20,10 @@ void MakeJpegs(const Seeds& seeds) {
     seeds.Add("four.jpg", MakeJpeg(bitmap, {.colours = Colours::Four}));
     seeds.Add("four_unmarked.jpg", MakeJpeg(bitmap, {.colours = Colours::FourUnmarked}));
     seeds.Add("progressive.jpg", MakeJpeg(bitmap, {.isProgressive = true}));
+    // Tall enough for a thread that passes over rows.
+    const Bitmap tall = SmoothBitmap(19, 211);
+    seeds.Add("tall.jpg", MakeJpeg(tall, {.quality = 40}));
+    seeds.Add("restarts.jpg", MakeJpeg(tall, {.quality = 20, .lumaDown = 1, .rowsBetweenRestarts = 1}));
     seeds.Add("exif.jpg",
               MakeJpeg(bitmap, {.exif = {'E', 'x', 'i', 'f', 0, 0, 'I', 'I', 42, 0, 8, 0, 0, 0}}));
 }
