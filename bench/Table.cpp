@@ -133,6 +133,7 @@ void Table::PrintFault(const std::string& fault) {
 }
 
 void Table::PrintSum() const {
+    if (manner_.alone && faults_ == 0) return;
     std::printf("\n%d of %d aims met", met_, aims_);
     if (missing_ > 0) std::printf("; %d rows lack their peer on this machine", missing_);
     if (faults_ > 0) std::printf("; %d FAULTS", faults_);
