@@ -19,8 +19,9 @@ constexpr const char* kDumpFile = "c:\\komp.txt";
 RealDesktop::RealDesktop(const std::string& home)
     : files_(home, kDumpFile), loader_(std::make_unique<WindowsPictures>(files_)),
       encoders_(std::make_unique<GdiPlusEncoders>()), clipboard_(std::make_unique<WindowsClipboard>()),
-      process_(std::make_unique<WindowsProcess>()), viewer_(std::make_unique<WindowsViewer>()),
-      console_(std::make_unique<WindowsConsole>()), keyboard_(std::make_unique<WindowsKeyboard>()) {}
+      process_(std::make_unique<WindowsProcess>(static_cast<const WindowsClipboard&>(*clipboard_))),
+      viewer_(std::make_unique<WindowsViewer>()), console_(std::make_unique<WindowsConsole>()),
+      keyboard_(std::make_unique<WindowsKeyboard>()) {}
 
 RealDesktop::~RealDesktop() = default;
 

@@ -3,12 +3,12 @@
 #include "codecs/BmpReader.h"
 #include "codecs/BmpWriter.h"
 #include "desktop/windows/System.h"
+#include "desktop/windows/Waiting.h"
 #include "desktop/windows/Wide.h"
 #include "forms/RunTimeError.h"
 
 #include <chrono>
 #include <cstring>
-#include <thread>
 #include <vector>
 
 namespace mirelle {
@@ -18,13 +18,15 @@ constexpr std::chrono::milliseconds kLongestWait{1000};
 constexpr std::chrono::milliseconds kLook{5};
 constexpr std::size_t kFileHeader = 14; // of a bitmap's file: the clipboard has what follows
 
+constexpr UINT kSettle = WM_APP; // a message to the clipboard's own window
+
 // The clipboard, open. Other programs have it open for a moment now and then, above all behind a change.
 class OpenedClipboard {
 public:
     explicit OpenedClipboard(HWND owner) {
         const auto deadline = std::chrono::steady_clock::now() + kLongestWait;
         while (!(isOpen_ = OpenClipboard(owner) != 0) && std::chrono::steady_clock::now() < deadline)
-            std::this_thread::sleep_for(kLook);
+            windows::WaitAnswering(kLook);
     }
     ~OpenedClipboard() {
         if (isOpen_) CloseClipboard();
@@ -61,22 +63,42 @@ HANDLE MemoryWith(std::span<const std::uint8_t> bytes) {
     return handle;
 }
 
+LRESULT CALLBACK HandleMessage(HWND window, UINT message, WPARAM first, LPARAM second) {
+    if (message != kSettle) return DefWindowProcW(window, message, first, second);
+    reinterpret_cast<const WindowsClipboard*>(GetWindowLongPtrW(window, GWLP_USERDATA))->Settle();
+    return 0;
+}
+
+HWND MakeOwner(const WindowsClipboard* clipboard) {
+    WNDCLASSW kind{};
+    kind.lpfnWndProc = HandleMessage;
+    kind.hInstance = GetModuleHandleW(nullptr);
+    kind.lpszClassName = L"MirelleClipboard";
+    RegisterClassW(&kind); // once for all; the second time it fails
+    const HWND owner =
+        CreateWindowW(kind.lpszClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, kind.hInstance, nullptr);
+    if (owner != nullptr) SetWindowLongPtrW(owner, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(clipboard));
+    return owner;
+}
+
 } // namespace
 
-WindowsClipboard::WindowsClipboard()
-    : owner_(CreateWindowW(L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr)) {}
+WindowsClipboard::WindowsClipboard() : owner_(MakeOwner(this)) {}
 
 WindowsClipboard::~WindowsClipboard() {
+    Settle();
     DestroyWindow(static_cast<HWND>(owner_));
 }
 
 // Windows makes this format of every other form of a bitmap.
 bool WindowsClipboard::HasBitmap() const {
+    Settle();
     if (fetched_ && fetched_->state == GetClipboardSequenceNumber()) return !fetched_->picture.IsEmpty();
     return IsClipboardFormatAvailable(CF_DIB) != 0;
 }
 
 Picture WindowsClipboard::GetData() {
+    Settle();
     const unsigned state = GetClipboardSequenceNumber();
     if (fetched_ && fetched_->state == state) return fetched_->picture;
     fetched_ = {state, Picture()};
@@ -94,7 +116,20 @@ Picture WindowsClipboard::GetData() {
 }
 
 void WindowsClipboard::Clear() {
-    Put(0, {});
+    fetched_.reset();
+    cleared_ = GetClipboardSequenceNumber();
+    const auto owner = static_cast<HWND>(owner_);
+    if (owner == nullptr || PostMessageW(owner, kSettle, 0, 0) == 0) Settle();
+}
+
+void WindowsClipboard::Settle() const {
+    if (!cleared_) return;
+    const unsigned state = *cleared_;
+    cleared_.reset();
+    // What another program put there since then came after the clearing, and stays.
+    if (GetClipboardSequenceNumber() != state) return;
+    const OpenedClipboard clipboard(static_cast<HWND>(owner_));
+    if (clipboard.IsOpen()) EmptyClipboard();
 }
 
 void WindowsClipboard::SetData(const Picture& bitmap) {
@@ -111,12 +146,13 @@ void WindowsClipboard::SetText(const std::string& text) {
 
 bool WindowsClipboard::Put(unsigned format, std::span<const std::uint8_t> bytes) {
     fetched_.reset();
-    const HANDLE memory = bytes.empty() ? nullptr : MemoryWith(bytes);
+    const HANDLE memory = MemoryWith(bytes);
     const OpenedClipboard clipboard(static_cast<HWND>(owner_));
-    const bool taken = clipboard.IsOpen() && EmptyClipboard() != 0 &&
-                       (memory == nullptr || SetClipboardData(format, memory) != nullptr);
-    if (!taken && memory != nullptr) GlobalFree(memory);
-    return taken;
+    const bool isEmpty = clipboard.IsOpen() && EmptyClipboard() != 0;
+    if (isEmpty) cleared_.reset();
+    const bool isTaken = isEmpty && SetClipboardData(format, memory) != nullptr;
+    if (!isTaken) GlobalFree(memory);
+    return isTaken;
 }
 
 } // namespace mirelle

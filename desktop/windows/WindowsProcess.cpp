@@ -1,6 +1,7 @@
 #include "desktop/windows/WindowsProcess.h"
 
 #include "desktop/windows/System.h"
+#include "desktop/windows/WindowsClipboard.h"
 
 #include <ole2.h>
 
@@ -10,6 +11,7 @@
 namespace mirelle {
 
 void WindowsProcess::End() {
+    clipboard_.Settle();
     // A text that a field copied Windows has only been told of; now it takes it. Where something has been
     // copied since then, nothing happens.
     OleFlushClipboard();

@@ -14,14 +14,19 @@ constexpr std::chrono::milliseconds kLook{5};
 constexpr DWORD kLongestEndMs = 10'000;
 constexpr std::string_view kBeforeText = "text\n";
 
-// Beside the test itself.
-std::wstring ProgramPath() {
+} // namespace
+
+std::wstring ProgramPath(const std::wstring& name) {
     std::wstring path(MAX_PATH, L'\0');
     path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
-    return path.substr(0, path.rfind(L'\\') + 1) + L"recording_console.exe";
+    return path.substr(0, path.rfind(L'\\') + 1) + name;
 }
 
-} // namespace
+void TakeMessages() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0)
+        DispatchMessageW(&message);
+}
 
 bool Await(const std::function<bool()>& condition) {
     const auto deadline = std::chrono::steady_clock::now() + kLongestWait;
@@ -32,9 +37,10 @@ bool Await(const std::function<bool()>& condition) {
     return true;
 }
 
-ConsoleProcess::ConsoleProcess(const std::string& title) : title_(title) {
-    std::wstring line = L'"' + ProgramPath() + L"\" \"" + windows::Wide(title) + L"\" \"" +
-                        windows::Wide(folder_ / "console.txt") + L'"';
+ConsoleProcess::ConsoleProcess(const std::string& title, Hearing hearing) : title_(title), hearing_(hearing) {
+    std::wstring line = L'"' + ProgramPath(L"recording_console.exe") + L"\" \"" + windows::Wide(title) +
+                        L"\" \"" + windows::Wide(folder_ / "console.txt") + L'"' +
+                        (hearing == Hearing::Deaf ? L" deaf" : L"");
     STARTUPINFOW start{};
     start.cb = sizeof(start);
     if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
@@ -46,7 +52,7 @@ ConsoleProcess::ConsoleProcess(const std::string& title) : title_(title) {
 
 ConsoleProcess::~ConsoleProcess() {
     if (const HWND window = Window()) PostMessageW(window, WM_CLOSE, 0, 0);
-    if (WaitForSingleObject(process_.hProcess, kLongestEndMs) != WAIT_OBJECT_0)
+    if (hearing_ == Hearing::Deaf || WaitForSingleObject(process_.hProcess, kLongestEndMs) != WAIT_OBJECT_0)
         TerminateProcess(process_.hProcess, 1);
     CloseHandle(process_.hThread);
     CloseHandle(process_.hProcess);

@@ -1,6 +1,7 @@
-// recording_console TITLE FILE: a window of that title that writes down in FILE what a
+// recording_console TITLE FILE [deaf]: a window of that title that writes down in FILE what a
 // keyboard brought it: the text of its WM_CHAR messages (a carriage return as a line's end) and a line "key
-// CODE MODIFIERS" for each key that went down. It ends when it is closed.
+// CODE MODIFIERS" for each key that went down. It ends when it is closed. A deaf one shows itself behind the
+// others and looks at no message, so that nothing moves it.
 #include "desktop/windows/System.h"
 #include "desktop/windows/Wide.h"
 
@@ -81,7 +82,8 @@ LRESULT CALLBACK Handle(HWND window, UINT message, WPARAM first, LPARAM second) 
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
     int count = 0;
     LPWSTR* arguments = CommandLineToArgvW(GetCommandLineW(), &count);
-    if (count != 3) return 2;
+    if (count != 3 && count != 4) return 2;
+    const bool isDeaf = count == 4;
     record.file = Utf8(arguments[2]);
 
     WNDCLASSW kind{};
@@ -90,9 +92,11 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
     kind.lpszClassName = L"RecordingConsole";
     kind.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));
     RegisterClassW(&kind);
-    const HWND window = CreateWindowW(kind.lpszClassName, arguments[1], WS_OVERLAPPEDWINDOW | WS_VISIBLE, 60,
-                                      420, 640, 320, nullptr, nullptr, instance, nullptr);
+    const HWND window = CreateWindowW(kind.lpszClassName, arguments[1], WS_OVERLAPPEDWINDOW, 60, 420, 640,
+                                      320, nullptr, nullptr, instance, nullptr);
     if (window == nullptr) return 1;
+    ShowWindow(window, isDeaf ? SW_SHOWNOACTIVATE : SW_SHOW);
+    if (isDeaf) Sleep(INFINITE);
     UpdateWindow(window);
 
     MSG message;

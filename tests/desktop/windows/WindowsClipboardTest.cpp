@@ -4,11 +4,15 @@
 #include "codecs/BmpWriter.h"
 #include "desktop/windows/System.h"
 #include "desktop/windows/Wide.h"
+#include "tests/desktop/windows/ConsoleProcess.h"
 #include "tests/support/Patterns.h"
 #include "tests/support/TestPictures.h"
 
+#include <atomic>
 #include <cstring>
+#include <future>
 #include <optional>
+#include <thread>
 
 #include <gmock/gmock.h>
 
@@ -115,6 +119,108 @@ TEST_F(WindowsClipboardTest, AnEmptyPictureLeavesNothing) {
     clipboard.SetData(Picture());
     EXPECT_FALSE(clipboard.HasBitmap());
     EXPECT_FALSE(Found(CF_DIB));
+}
+
+TEST_F(WindowsClipboardTest, ClearingAndPuttingIsOneChange) {
+    clipboard.SetText("first");
+    DWORD state = GetClipboardSequenceNumber();
+    clipboard.SetText("second");
+    const DWORD oneChange = GetClipboardSequenceNumber() - state;
+    state = GetClipboardSequenceNumber();
+    clipboard.Clear();
+    EXPECT_EQ(GetClipboardSequenceNumber(), state);
+    clipboard.SetText("third");
+    EXPECT_EQ(GetClipboardSequenceNumber() - state, oneChange);
+    TakeMessages();
+    EXPECT_EQ(GetClipboardSequenceNumber() - state, oneChange);
+    EXPECT_TRUE(Found(CF_UNICODETEXT));
+}
+
+TEST_F(WindowsClipboardTest, AClearingAloneTakesPlaceAtTheNextTurnOfTheEventLoop) {
+    clipboard.SetData(ChartPicture(5, 5));
+    clipboard.Clear();
+    TakeMessages();
+    EXPECT_FALSE(Found(CF_DIB));
+}
+
+TEST_F(WindowsClipboardTest, WhoLooksFromHereFindsTheClipboardClearedAtOnce) {
+    clipboard.SetData(ChartPicture(5, 5));
+    clipboard.Clear();
+    EXPECT_FALSE(clipboard.HasBitmap());
+    EXPECT_FALSE(Found(CF_DIB));
+    clipboard.SetData(ChartPicture(5, 5));
+    clipboard.Clear();
+    EXPECT_TRUE(clipboard.GetData().IsEmpty());
+    EXPECT_FALSE(Found(CF_DIB));
+}
+
+TEST_F(WindowsClipboardTest, AClearingTakesPlaceAtItsEndAtTheLatest) {
+    {
+        WindowsClipboard passing;
+        passing.SetData(ChartPicture(5, 5));
+        passing.Clear();
+    }
+    EXPECT_FALSE(Found(CF_DIB));
+}
+
+TEST_F(WindowsClipboardTest, WhatAnotherProgramLeavesAfterAClearingStays) {
+    clipboard.SetText("words");
+    clipboard.Clear();
+    Leave(CF_DIB, DibOf(NoiseBitmap(8, 8, 1)));
+    TakeMessages();
+    EXPECT_EQ(clipboard.GetData().Width(), 8);
+}
+
+// A program that has the clipboard open, asks a window of this one something, and lets the clipboard go when
+// it has been answered.
+class AskingProgram {
+public:
+    AskingProgram() {
+        std::promise<void> open;
+        thread_ = std::thread([this, &open] {
+            const HWND own = MakeWindow();
+            while (OpenClipboard(own) == 0)
+                std::this_thread::yield();
+            open.set_value();
+            SendMessageW(asked_, WM_NULL, 0, 0);
+            CloseClipboard();
+            DestroyWindow(own);
+            hasEnded_ = true;
+        });
+        open.get_future().wait();
+    }
+    ~AskingProgram() {
+        Await([this] {
+            TakeMessages();
+            return hasEnded_.load();
+        });
+        thread_.join();
+        DestroyWindow(asked_);
+    }
+    AskingProgram(const AskingProgram&) = delete;
+    AskingProgram& operator=(const AskingProgram&) = delete;
+
+private:
+    static HWND MakeWindow() {
+        return CreateWindowW(L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+    }
+
+    HWND asked_ = MakeWindow();
+    std::atomic<bool> hasEnded_ = false;
+    std::thread thread_;
+};
+
+TEST_F(WindowsClipboardTest, AProgramThatHasItOpenIsAnsweredMeanwhile) {
+    {
+        const AskingProgram program;
+        clipboard.SetText("kept");
+    }
+    const std::optional<Bytes> found = Found(CF_UNICODETEXT);
+    ASSERT_TRUE(found);
+    EXPECT_EQ(windows::Utf8(reinterpret_cast<const wchar_t*>(found->data())), "kept");
+    Leave(CF_DIB, DibOf(NoiseBitmap(8, 8, 1)));
+    const AskingProgram program;
+    EXPECT_EQ(clipboard.GetData().Width(), 8);
 }
 
 } // namespace
