@@ -3,25 +3,68 @@
 #include "desktop/windows/Wide.h"
 #include "forms/RunTimeError.h"
 
+#include <algorithm>
+
 namespace mirelle::windows {
 namespace {
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+constexpr DWORD kGreatestWrite = 1U << 24; // one call's
 
-// Windows turns the name of a device, in whatever folder it seems to stand, into a path of this beginning.
-bool IsDevice(const std::wstring& path) {
-    wchar_t full[32];
-    const DWORD length = GetFullPathNameW(path.c_str(), DWORD(std::size(full)), full, nullptr);
-    return length > 0 && length < std::size(full) && std::wstring_view(full, length).starts_with(LR"(\\.\)");
+constexpr std::wstring_view kLongLocal = LR"(\\?\)";
+constexpr std::wstring_view kLongNetwork = LR"(\\?\UNC\)";
+constexpr std::wstring_view kNetwork = LR"(\\)";
+constexpr std::wstring_view kDevice = LR"(\\.\)";
+// From here on a folder's path is too long, which has to leave room for a name of 8 + 1 + 3 characters.
+constexpr std::size_t kTooLong = MAX_PATH - 12;
+
+// Empty where Windows makes none.
+std::wstring FullPathOf(const std::wstring& path) {
+    std::wstring full(MAX_PATH, L'\0');
+    DWORD length = GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
+    if (length >= full.size()) {
+        full.resize(length);
+        length = GetFullPathNameW(path.c_str(), length, full.data(), nullptr);
+    }
+    full.resize(length);
+    return full;
 }
 
 } // namespace
 
-std::optional<std::wstring> SystemPath(const std::string& path) {
+std::optional<std::wstring> FullPath(const std::string& path) {
     if (path.empty() || path.find('\0') != std::string::npos) return std::nullopt;
-    std::optional<std::wstring> wide = ExactlyWide(path);
-    if (!wide || IsDevice(*wide)) return std::nullopt;
-    return wide;
+    const std::optional<std::wstring> wide = ExactlyWide(path);
+    if (!wide) return std::nullopt;
+    std::wstring full = FullPathOf(*wide);
+    // Windows turns the name of a device, in whatever folder it seems to stand, into a path of this
+    // beginning.
+    if (full.empty() || full.starts_with(kDevice)) return std::nullopt;
+    return full;
+}
+
+std::optional<std::wstring> SystemPath(const std::string& path) {
+    const std::optional<std::wstring> full = FullPath(path);
+    if (!full) return std::nullopt;
+    return full->size() < kTooLong ? ExactlyWide(path) : InSystemForm(*full);
+}
+
+std::wstring InSystemForm(const std::wstring& path) {
+    if (IsLongForm(path)) return path;
+    const std::wstring full = FullPathOf(path);
+    if (full.size() < kTooLong) return path;
+    if (full.starts_with(kNetwork)) return std::wstring(kLongNetwork) + full.substr(kNetwork.size());
+    return std::wstring(kLongLocal) + full;
+}
+
+bool IsLongForm(const std::wstring& path) {
+    return path.starts_with(kLongLocal);
+}
+
+std::wstring WithoutLongBeginning(const std::wstring& path) {
+    if (path.starts_with(kLongNetwork)) return std::wstring(kNetwork) + path.substr(kLongNetwork.size());
+    if (path.starts_with(kLongLocal)) return path.substr(kLongLocal.size());
+    return path;
 }
 
 DWORD AttributesOf(const std::string& path) {
@@ -43,6 +86,16 @@ FileHandle OpenRegularFile(const std::string& path, DWORD access, DWORD disposit
     FileHandle file(handle);
     if (GetFileType(handle) != FILE_TYPE_DISK) throw RunTimeError(ErrorNumber::PathFileAccess);
     return file;
+}
+
+void WriteAll(const FileHandle& file, std::span<const std::uint8_t> bytes, const std::string& path) {
+    while (!bytes.empty()) {
+        const DWORD wanted = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), kGreatestWrite));
+        DWORD put = 0;
+        if (WriteFile(file.Get(), bytes.data(), wanted, &put, nullptr) == 0)
+            RaiseLastError(host::Action::Write, path);
+        bytes = bytes.subspan(put);
+    }
 }
 
 std::optional<std::wstring> FinalPath(const std::wstring& path) {

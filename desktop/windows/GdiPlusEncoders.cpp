@@ -1,14 +1,14 @@
 #include "desktop/windows/GdiPlusEncoders.h"
 
 #include "desktop/windows/DeviceBitmap.h"
+#include "desktop/windows/FileHandle.h"
 #include "desktop/windows/GdiPlus.h"
 #include "desktop/windows/NewFile.h"
-#include "desktop/windows/Wide.h"
 #include "forms/RunTimeError.h"
 
 #include <algorithm>
 #include <array>
-#include <cwchar>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -55,21 +55,45 @@ windows::DeviceBitmap BitmapFor(ImageFormat format, const Bitmap& bitmap) {
     return windows::DeviceBitmap(exact ? *exact : IndexByDithering(bitmap));
 }
 
+struct ReleaseStream {
+    void operator()(IStream* stream) const { stream->Release(); }
+};
+using MemoryStream = std::unique_ptr<IStream, ReleaseStream>;
+
+// What has been written to a stream.
+std::vector<std::uint8_t> BytesOf(IStream& stream) {
+    STATSTG told{};
+    if (FAILED(stream.Stat(&told, STATFLAG_NONAME)) || FAILED(stream.Seek({}, STREAM_SEEK_SET, nullptr)))
+        throw RunTimeError(ErrorNumber::DeviceIOError);
+    std::vector<std::uint8_t> bytes(told.cbSize.QuadPart);
+    ULONG count = 0;
+    if (FAILED(stream.Read(bytes.data(), static_cast<ULONG>(bytes.size()), &count)) || count != bytes.size())
+        throw RunTimeError(ErrorNumber::DeviceIOError);
+    return bytes;
+}
+
 class Image {
 public:
     explicit Image(const windows::DeviceBitmap& bitmap) {
         if (flat::GdipCreateBitmapFromHBITMAP(bitmap.Handle(), nullptr, &image_) != Gdiplus::Ok)
-            image_ = nullptr;
+            throw RunTimeError(ErrorNumber::DeviceIOError);
     }
-    ~Image() {
-        if (image_ != nullptr) flat::GdipDisposeImage(image_);
-    }
+    ~Image() { flat::GdipDisposeImage(image_); }
     Image(const Image&) = delete;
     Image& operator=(const Image&) = delete;
 
-    bool Save(const std::wstring& path, const CLSID& encoder) const {
-        return image_ != nullptr &&
-               flat::GdipSaveImageToFile(image_, path.c_str(), &encoder, nullptr) == Gdiplus::Ok;
+    void Save(const std::wstring& path, const CLSID& encoder) const {
+        if (flat::GdipSaveImageToFile(image_, path.c_str(), &encoder, nullptr) != Gdiplus::Ok)
+            throw RunTimeError(ErrorNumber::DeviceIOError);
+    }
+
+    std::vector<std::uint8_t> Encoded(const CLSID& encoder) const {
+        IStream* made = nullptr;
+        if (FAILED(CreateStreamOnHGlobal(nullptr, TRUE, &made))) throw RunTimeError(ErrorNumber::OutOfMemory);
+        const MemoryStream stream(made);
+        if (flat::GdipSaveImageToStream(image_, stream.get(), &encoder, nullptr) != Gdiplus::Ok)
+            throw RunTimeError(ErrorNumber::DeviceIOError);
+        return BytesOf(*stream);
     }
 
 private:
@@ -98,8 +122,13 @@ bool GdiPlusEncoders::Save(const Picture& picture, ImageFormat format, const std
     if (!encoder) return false;
     return ResumeNext([&] {
         const windows::DeviceBitmap bitmap = BitmapFor(format, picture.Pixels());
+        const Image image(bitmap);
         windows::NewFile file(path);
-        if (!Image(bitmap).Save(file.Path(), *encoder)) throw RunTimeError(ErrorNumber::DeviceIOError);
+        // GDI+ promises nothing for paths that are longer than what Windows takes by itself.
+        if (windows::IsLongForm(file.Path()))
+            file.Write(image.Encoded(*encoder));
+        else
+            image.Save(file.Path(), *encoder);
         file.TakePlace();
     });
 }

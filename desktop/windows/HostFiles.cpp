@@ -96,17 +96,8 @@ std::size_t ReadInto(const FileHandle& file, std::span<std::uint8_t> bytes, cons
     return count;
 }
 
-// A final path as the rest of the program writes one: without its long beginning.
-std::wstring WithoutLongBeginning(std::wstring path) {
-    constexpr std::wstring_view kNetwork = LR"(\\?\UNC\)";
-    constexpr std::wstring_view kLocal = LR"(\\?\)";
-    if (path.starts_with(kNetwork)) return LR"(\\)" + path.substr(kNetwork.size());
-    if (path.starts_with(kLocal)) return path.substr(kLocal.size());
-    return path;
-}
-
 std::wstring RealPath(const std::wstring& path) {
-    return WithoutLongBeginning(windows::FinalPath(path).value_or(std::wstring()));
+    return windows::WithoutLongBeginning(windows::FinalPath(path).value_or(std::wstring()));
 }
 
 bool SameText(std::wstring_view first, std::wstring_view second) {
@@ -188,7 +179,7 @@ std::vector<std::string> EntryNames(const std::string& folder, EntryKind kind,
         if (!name) return;
         if (Has(attributes, FILE_ATTRIBUTE_REPARSE_POINT)) {
             if (followsLink && !followsLink(*name)) return;
-            if (!windows::FinalPath(Inside(place, entry.cFileName))) return;
+            if (!windows::FinalPath(windows::InSystemForm(Inside(place, entry.cFileName)))) return;
         }
         names.push_back(*name);
     });

@@ -44,13 +44,9 @@ std::string WithoutEndingSeparator(std::string path) {
 // capital. A drive alone, and a path that begins right behind the drive's colon, start at that drive's root.
 // No separator at the end but a root's. The empty text for what can be no path.
 std::string AbsolutePath(const std::string& path) {
-    const std::optional<std::wstring> wide = windows::SystemPath(FromDrivesRoot(path));
-    if (!wide) return {};
-    const DWORD count = GetFullPathNameW(wide->c_str(), 0, nullptr, nullptr);
-    if (count == 0) return {};
-    std::wstring full(count, L'\0');
-    full.resize(GetFullPathNameW(wide->c_str(), count, full.data(), nullptr));
-    std::string text = WithoutEndingSeparator(windows::Utf8(full));
+    const std::optional<std::wstring> full = windows::FullPath(FromDrivesRoot(path));
+    if (!full) return {};
+    std::string text = WithoutEndingSeparator(windows::Utf8(*full));
     if (HasDrive(text) && text[0] >= 'a') text[0] = static_cast<char>(text[0] - 'a' + 'A');
     return text;
 }

@@ -15,7 +15,8 @@ constexpr int kNameTries = 100;
 // Where a link leads to, so that it is not the link that is replaced; and of a file that is there its name as
 // it was made, so that its letters stay as large or small as they are.
 std::wstring TargetOf(const std::wstring& path) {
-    return windows::FinalPath(path).value_or(path);
+    const std::optional<std::wstring> final = FinalPath(path);
+    return final ? InSystemForm(WithoutLongBeginning(*final)) : path;
 }
 
 } // namespace
@@ -37,7 +38,7 @@ NewFile::NewFile(const std::string& target) : targetText_(target) {
         throw RunTimeError(ErrorNumber::BadFileName);
     std::random_device random;
     for (int attempt = 0; attempt < kNameTries; ++attempt) {
-        path_ = folder + L"new" + std::to_wstring(random()) + L".tmp";
+        path_ = InSystemForm(folder + L"new" + std::to_wstring(random()) + L".tmp");
         const FileHandle file(CreateFileW(path_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                           FILE_ATTRIBUTE_NORMAL, nullptr));
         if (file.IsOpen()) return;
@@ -53,6 +54,13 @@ NewFile::NewFile(const std::string& target) : targetText_(target) {
 
 NewFile::~NewFile() {
     if (!path_.empty()) DeleteFileW(path_.c_str());
+}
+
+void NewFile::Write(std::span<const std::uint8_t> bytes) {
+    const FileHandle file(
+        CreateFileW(path_.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file.IsOpen()) RaiseLastError(Action::Write, targetText_);
+    WriteAll(file, bytes, targetText_);
 }
 
 void NewFile::TakePlace() {

@@ -1,6 +1,8 @@
 // A file that is written beside another and then takes its place, whole or not at all.
 #pragma once
 
+#include <cstdint>
+#include <span>
 #include <string>
 
 namespace mirelle::windows {
@@ -15,8 +17,10 @@ public:
     NewFile(const NewFile&) = delete;
     NewFile& operator=(const NewFile&) = delete;
 
-    // Where to write.
+    // Where to write, in the form that Windows takes.
     const std::wstring& Path() const { return path_; }
+    // Writes it here and now. Raises 75, 70, 61, 57.
+    void Write(std::span<const std::uint8_t> bytes);
     // Raises 70 where another program holds the target.
     void TakePlace();
 
