@@ -33,6 +33,7 @@ constexpr std::array kDescriptions = {
     Row{ErrorNumber::InvalidPropertyValue, "Invalid property value"},
     Row{ErrorNumber::InvalidPropertyArrayIndex, "Invalid property array index"},
     Row{ErrorNumber::CannotCreateObject, "ActiveX component can't create object"},
+    Row{ErrorNumber::AutomationError, "Automation error"},
     Row{ErrorNumber::InvalidPicture, "Invalid picture"},
     Row{ErrorNumber::DialogCancelled, "Cancel was selected."},
 };

@@ -35,6 +35,7 @@ enum class ErrorNumber {
     InvalidPropertyValue = 380,
     InvalidPropertyArrayIndex = 381,
     CannotCreateObject = 429,
+    AutomationError = 440, // what an object of another program tells in a number of its own
     InvalidPicture = 481,
     DialogCancelled = 32755,
 };

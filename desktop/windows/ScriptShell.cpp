@@ -39,12 +39,20 @@ struct Failure : EXCEPINFO {
     Failure(const Failure&) = delete;
     Failure& operator=(const Failure&) = delete;
 
-    // The method's own result.
+    // The method's own result. An object names a failure in one of two ways; the shorter is that of a
+    // run-time error.
     HRESULT Result() {
         if (pfnDeferredFillIn != nullptr) pfnDeferredFillIn(this);
-        return scode;
+        pfnDeferredFillIn = nullptr;
+        return wCode != 0 ? MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, wCode) : scode;
     }
 };
+
+// Results of this facility carry the numbers of run-time errors.
+ErrorNumber NumberOf(HRESULT result) {
+    const bool isNamed = HRESULT_FACILITY(result) == FACILITY_CONTROL && HRESULT_CODE(result) != 0;
+    return isNamed ? static_cast<ErrorNumber>(HRESULT_CODE(result)) : ErrorNumber::AutomationError;
+}
 
 } // namespace
 
@@ -71,11 +79,12 @@ bool ScriptShell::SendKeys(const std::string& text) {
     argument.bstrVal = keys.Get();
     DISPPARAMS arguments{&argument, nullptr, 1, 0};
     Failure failure;
-    const HRESULT result = object_->Invoke(method, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &arguments,
-                                           nullptr, &failure, nullptr);
+    HRESULT result = object_->Invoke(method, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &arguments,
+                                     nullptr, &failure, nullptr);
     if (SUCCEEDED(result)) return true;
-    if (IsMissing(result == DISP_E_EXCEPTION ? failure.Result() : result)) return false;
-    throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+    if (result == DISP_E_EXCEPTION) result = failure.Result();
+    if (IsMissing(result)) return false;
+    throw RunTimeError(NumberOf(result));
 }
 
 } // namespace mirelle::windows

@@ -18,7 +18,7 @@ public:
     ScriptShell& operator=(const ScriptShell&) = delete;
 
     // Types the text, which is well formed. False where this shell object can't, and nothing is typed then.
-    // Raises error 5 where it fails otherwise.
+    // Where it fails otherwise, raises the run-time error that it names, or 440 where it names none.
     bool SendKeys(const std::string& text);
 
 private:

@@ -33,6 +33,7 @@ TEST(RunTimeError, CarriesTheUsualTextOfItsNumber) {
         {380, "Invalid property value"},
         {381, "Invalid property array index"},
         {429, "ActiveX component can't create object"},
+        {440, "Automation error"},
         {481, "Invalid picture"},
         {32755, "Cancel was selected."},
         {1, "Application-defined or object-defined error"},

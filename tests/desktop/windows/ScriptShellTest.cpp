@@ -47,15 +47,33 @@ TEST(ScriptShell, TellsThatTheObjectCannotType) {
     EXPECT_FALSE(shell->SendKeys("a"));
 }
 
-TEST(ScriptShell, AnyOtherFailureRaisesError5) {
+TEST(ScriptShell, AnyOtherFailureRaisesTheRunTimeErrorThatItNames) {
     ScriptedShell system;
     const std::unique_ptr<ScriptShell> shell = ScriptShell::Create();
-    system.runResult = E_ACCESSDENIED;
-    EXPECT_EQ(ErrorOf([&] { shell->SendKeys("a"); }), ErrorNumber::InvalidProcedureCall);
-    system.runResult = DISP_E_EXCEPTION;
-    EXPECT_EQ(ErrorOf([&] { shell->SendKeys("a"); }), ErrorNumber::InvalidProcedureCall);
-    system.exception = E_ACCESSDENIED;
-    EXPECT_EQ(ErrorOf([&] { shell->SendKeys("a"); }), ErrorNumber::InvalidProcedureCall);
+    const auto raised = [&](HRESULT result, HRESULT exception = S_OK, WORD code = 0) {
+        system.runResult = result;
+        system.exception = exception;
+        system.code = code;
+        return ErrorOf([&] { shell->SendKeys("a"); });
+    };
+    constexpr auto kOf70 = static_cast<HRESULT>(0x800A0046);
+    EXPECT_EQ(raised(kOf70), ErrorNumber::PermissionDenied);
+    EXPECT_EQ(raised(DISP_E_EXCEPTION, kOf70), ErrorNumber::PermissionDenied);
+    EXPECT_EQ(raised(DISP_E_EXCEPTION, S_OK, 70), ErrorNumber::PermissionDenied);
+    EXPECT_EQ(raised(static_cast<HRESULT>(0x800A0005)), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(raised(static_cast<HRESULT>(0x800AFFFF)), static_cast<ErrorNumber>(0xFFFF));
+}
+
+TEST(ScriptShell, AFailureThatNamesNoRunTimeErrorRaises440) {
+    ScriptedShell system;
+    const std::unique_ptr<ScriptShell> shell = ScriptShell::Create();
+    for (const HRESULT result : {E_ACCESSDENIED, E_FAIL, static_cast<HRESULT>(0x800A0000)}) {
+        system.runResult = result;
+        EXPECT_EQ(ErrorOf([&] { shell->SendKeys("a"); }), ErrorNumber::AutomationError) << result;
+        system.runResult = DISP_E_EXCEPTION;
+        system.exception = result;
+        EXPECT_EQ(ErrorOf([&] { shell->SendKeys("a"); }), ErrorNumber::AutomationError) << result;
+    }
 }
 
 class ConsoleOverShell : public testing::Test {

@@ -57,6 +57,7 @@ public:
         shell_.calls.push_back(call + ")");
         if (shell_.runResult == DISP_E_EXCEPTION && exception != nullptr) {
             *exception = {};
+            exception->wCode = shell_.code;
             exception->scode = shell_.exception;
             exception->bstrDescription = SysAllocString(L"It failed");
         }

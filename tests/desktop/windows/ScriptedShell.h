@@ -22,6 +22,7 @@ public:
     HRESULT runResult = S_OK;
     // What an exception tells of, where that is the result.
     HRESULT exception = S_OK;
+    WORD code = 0;
     // One entry for each run: how it was called, as in "SendKeys(text)".
     std::vector<std::string> calls;
     // How many of its objects are in use.
