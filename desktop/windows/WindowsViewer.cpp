@@ -1,16 +1,13 @@
 #include "desktop/windows/WindowsViewer.h"
 
-#include "desktop/windows/System.h"
 #include "desktop/windows/Wide.h"
-
-#include <shellapi.h>
 
 namespace mirelle {
 
 void WindowsViewer::Open(const std::string& target, const std::string& workingFolder, int showMode) {
     // The window that asks is the one that the user works with; no operation means the document's usual one.
-    ShellExecuteW(GetActiveWindow(), nullptr, windows::Wide(target).c_str(), nullptr,
-                  windows::Wide(workingFolder).c_str(), showMode);
+    execute_(GetActiveWindow(), nullptr, windows::Wide(target).c_str(), nullptr,
+             windows::Wide(workingFolder).c_str(), showMode);
 }
 
 } // namespace mirelle
