@@ -1,11 +1,11 @@
 #include "desktop/windows/WindowFinder.h"
 
 #include "bridge/WindowTitle.h"
+#include "desktop/windows/Waiting.h"
 #include "desktop/windows/Wide.h"
 
 #include <chrono>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace mirelle::windows {
@@ -36,11 +36,6 @@ BOOL CALLBACK AddIfSeen(HWND window, LPARAM list) {
     return TRUE;
 }
 
-bool IsInFront(HWND window) {
-    const HWND front = GetForegroundWindow();
-    return front == window || (front != nullptr && GetAncestor(front, GA_ROOTOWNER) == window);
-}
-
 // Windows lets only the program that the user works with bring another to the front. Sharing the input state
 // of the thread that is in front makes this one count as it.
 void AskFor(HWND window) {
@@ -62,13 +57,20 @@ HWND FindWindowTitled(std::string_view title) {
     return found ? open.windows[*found] : nullptr;
 }
 
+bool IsInFront(HWND window) {
+    const HWND front = GetForegroundWindow();
+    return front == window || (front != nullptr && GetAncestor(front, GA_ROOTOWNER) == window);
+}
+
 bool BringToFront(HWND window) {
-    if (IsIconic(window) != 0) ShowWindowAsync(window, SW_RESTORE);
-    AskFor(window);
+    const bool isMinimised = IsIconic(window) != 0;
+    if (isMinimised) ShowWindowAsync(window, SW_RESTORE);
+    // One that is there needs nobody's leave. A dialog of its own in front of it still goes behind it.
+    if (isMinimised || GetForegroundWindow() != window) AskFor(window);
     const auto deadline = std::chrono::steady_clock::now() + kLongestWait;
     while (!IsInFront(window)) {
         if (std::chrono::steady_clock::now() >= deadline) return false;
-        std::this_thread::sleep_for(kLook);
+        WaitAnswering(kLook);
     }
     return true;
 }

@@ -121,6 +121,26 @@ TEST_F(Typing, WithoutTheWindowActivationRaisesError5) {
     EXPECT_EQ(ErrorOf([&] { console_.AppActivate(""); }), ErrorNumber::InvalidProcedureCall);
 }
 
+TEST_F(Typing, AWindowThatStaysBehindRaisesError5AndNothingIsTypedIntoAnother) {
+    const ConsoleProcess other("Other");
+    console_.AppActivate("Other");
+    const ConsoleProcess console("Ruby Console", ConsoleProcess::Hearing::Deaf);
+    EXPECT_EQ(ErrorOf([&] { console_.AppActivate("Ruby Console"); }), ErrorNumber::InvalidProcedureCall);
+    const std::unique_ptr<ShellObject> shell = console_.CreateObject("WScript.Shell");
+    EXPECT_EQ(ErrorOf([&] { shell->SendKeys("lost"); }), ErrorNumber::PermissionDenied);
+    console_.AppActivate("Other");
+    console_.CreateObject("WScript.Shell")->SendKeys("x");
+    EXPECT_TRUE(Await([&] { return other.Text() == "x"; })) << other.Text();
+}
+
+TEST_F(Typing, WithoutAnySuchWindowTheKeysGoWhereTheFocusIs) {
+    const ConsoleProcess other("Other");
+    console_.AppActivate("Other");
+    EXPECT_EQ(ErrorOf([&] { console_.AppActivate("Ruby Console"); }), ErrorNumber::InvalidProcedureCall);
+    console_.CreateObject("WScript.Shell")->SendKeys("here");
+    EXPECT_TRUE(Await([&] { return other.Text() == "here"; })) << other.Text();
+}
+
 TEST_F(Typing, AnotherClassRaisesError429) {
     EXPECT_EQ(ErrorOf([&] { console_.CreateObject("WScript.Network"); }), ErrorNumber::CannotCreateObject);
     EXPECT_NE(console_.CreateObject("wscript.SHELL"), nullptr);

@@ -103,6 +103,30 @@ TEST_F(AppActivate, RaisesError5WhereTheWindowDoesNotGetTheFocus) {
     EXPECT_EQ(ErrorOf([&] { console_.AppActivate("Ruby Console"); }), ErrorNumber::InvalidProcedureCall);
 }
 
+TEST_F(AppActivate, WhereTheWindowDoesNotGetTheFocusNothingIsTypedIntoAnother) {
+    const auto console = Open("Ruby Console", {"--no-focus"});
+    const auto other = Open("Other");
+    console_.AppActivate("Other");
+    EXPECT_EQ(ErrorOf([&] { console_.AppActivate("Ruby Console"); }), ErrorNumber::InvalidProcedureCall);
+    auto shell = console_.CreateObject("WScript.Shell");
+    EXPECT_EQ(ErrorOf([&] { shell->SendKeys("lost"); }), ErrorNumber::PermissionDenied);
+    console_.AppActivate("Other");
+    shell = console_.CreateObject("WScript.Shell");
+    shell->SendKeys("x");
+    shell.reset();
+    EXPECT_EQ(other->TakeRecord(), "x");
+}
+
+TEST_F(AppActivate, WithoutAnySuchWindowTheKeysGoWhereTheFocusIs) {
+    const auto other = Open("Other");
+    console_.AppActivate("Other");
+    EXPECT_EQ(ErrorOf([&] { console_.AppActivate("Ruby Console"); }), ErrorNumber::InvalidProcedureCall);
+    auto shell = console_.CreateObject("WScript.Shell");
+    shell->SendKeys("here");
+    shell.reset();
+    EXPECT_EQ(other->TakeRecord(), "here");
+}
+
 TEST_F(AppActivate, OnlyTheShellObjectCanBeCreated) {
     EXPECT_NE(console_.CreateObject("wscript.shell"), nullptr);
     EXPECT_EQ(ErrorOf([&] { console_.CreateObject("Other.Thing"); }), ErrorNumber::CannotCreateObject);
