@@ -3,6 +3,7 @@
 
 #include <csignal>
 #include <cstddef>
+#include <ostream>
 #include <string>
 
 #include <sys/mount.h>
@@ -17,6 +18,10 @@ enum class FullBy {
 
 inline const char* NameOf(FullBy way) {
     return way == FullBy::Mount ? "Mount" : "Limit";
+}
+
+inline void PrintTo(FullBy way, std::ostream* out) {
+    *out << NameOf(way);
 }
 
 // While it lives, what is written into the folder finds no more room than kSize. Where it is mounted, the

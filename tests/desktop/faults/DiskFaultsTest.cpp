@@ -75,6 +75,8 @@ struct FullDiskRow {
     const char* message; // the empty text where a save that fails is silent
     // Whether the file that is saved over goes first: it is then gone where there is no room for the new one.
     bool deletesFirst;
+
+    friend void PrintTo(const FullDiskRow& row, std::ostream* out) { *out << row.pattern; }
 };
 
 constexpr FullDiskRow kFormats[] = {

@@ -20,6 +20,8 @@ struct PlaceRow {
     const char* typedName;
     const char* path;
     bool within;
+
+    friend void PrintTo(const PlaceRow& row, std::ostream* out) { *out << row.path; }
 };
 
 constexpr PlaceRow kRows[] = {
