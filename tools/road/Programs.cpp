@@ -18,6 +18,8 @@
 namespace mirelle::road {
 namespace {
 
+constexpr int kLongestAnswerMs = 5000;
+
 QStringList Words(const std::vector<std::string>& words) {
     QStringList list;
     for (const std::string& word : words)
@@ -135,7 +137,11 @@ void TakeFromClipboard(const std::string& pictureFile) {
         QProcess xclip;
         xclip.setStandardOutputFile(QString::fromStdString(pictureFile));
         xclip.start("xclip", {"-selection", "clipboard", "-t", "image/bmp", "-o"});
-        return xclip.waitForFinished() && xclip.exitCode() == 0;
+        // Who asks in the midst of a change may get no answer at all, and asks again.
+        if (xclip.waitForFinished(kLongestAnswerMs)) return xclip.exitCode() == 0;
+        xclip.kill();
+        xclip.waitForFinished();
+        return false;
     });
 }
 
