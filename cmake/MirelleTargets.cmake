@@ -45,6 +45,28 @@ function(mirelle_library target)
     target_link_libraries(${target} PUBLIC ${ARG_LINK})
 endfunction()
 
+# mirelle_vector_code(NAME): a target whose sources run code in versions for the processor (forms/FunctionVersions.h).
+function(mirelle_vector_code target)
+    target_compile_definitions(${target} PRIVATE MIRELLE_VECTOR_CODE)
+    if(MSVC)
+        return() # fuses no steps unless it is told to, and makes vector code at its usual level
+    endif()
+    target_compile_options(${target} PRIVATE
+        # A product and a sum stay two roundings: fused they would decide ties otherwise than the formulas do.
+        -ffp-contract=off
+        # GCC makes vector code in full at this level only.
+        $<$<NOT:$<CONFIG:Debug>>:-O3>)
+    if(MIRELLE_SANITIZE)
+        # Clang warns of loops that the checks between their steps keep it from making vector code of.
+        target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:Clang>:-Wno-pass-failed>)
+    endif()
+    if(MINGW AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        # GCC moves wide registers to the stack as if it were aligned to them, which it is not there; the assembler then
+        # takes moves that need no alignment.
+        target_compile_options(${target} PRIVATE -Wa,-muse-unaligned-vector-move)
+    endif()
+endfunction()
+
 # mirelle_program(NAME sources... LINK targets...): an executable.
 function(mirelle_program target)
     cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
@@ -83,4 +105,14 @@ function(mirelle_test target)
         target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O0>)
     endif()
     mirelle_known_tests(${target})
+endfunction()
+
+# mirelle_tests_in_versions(NAME FILTER patterns): knows these tests of a program also with narrower registers than this
+# processor has, so that every version of the code that they run is tried (forms/FunctionVersions.h).
+function(mirelle_tests_in_versions target)
+    cmake_parse_arguments(ARG "" "FILTER" "" ${ARGN})
+    foreach(bytes 16 32)
+        mirelle_known_tests(${target} PREFIX "Registers${bytes}." FILTER "${ARG_FILTER}"
+            ENVIRONMENT MIRELLE_REGISTERS=${bytes})
+    endforeach()
 endfunction()

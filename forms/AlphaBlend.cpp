@@ -78,13 +78,14 @@ void BlendStretched(Bitmap& destination, PixelArea to, const Bitmap& source, Pix
 
 } // namespace
 
-MIRELLE_VERSIONS
 void BlendRow(std::span<std::uint8_t> destination, std::span<const std::uint8_t> source, std::uint8_t alpha) {
-    const std::size_t count = std::min(destination.size(), source.size());
-    std::uint8_t* to = destination.data();
-    const std::uint8_t* from = source.data();
-    for (std::size_t i = 0; i < count; ++i)
-        to[i] = Blended(from[i], to[i], alpha);
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        const std::size_t count = std::min(destination.size(), source.size());
+        std::uint8_t* to = destination.data();
+        const std::uint8_t* from = source.data();
+        for (std::size_t i = 0; i < count; ++i)
+            to[i] = Blended(from[i], to[i], alpha);
+    });
 }
 
 void AlphaBlend(Bitmap& destination, PixelArea to, const Bitmap& source, PixelArea from, int alpha) {

@@ -182,20 +182,23 @@ void Stretch::DrawWeighted(const Part& part) {
 
 // Two pixels of two rows to one pixel, four bytes at a time: the even and the odd bytes of a pixel are held
 // in the 16-bit halves of two words.
-MIRELLE_VERSIONS void HalveRows(const Pixel* upper, const Pixel* lower, Pixel* out, std::size_t count) {
-    constexpr std::uint32_t kHalves = 0x00FF00FF;
-    constexpr std::uint32_t kRounding = 0x00020002;
-    const auto word = [](const Pixel& pixel) { return std::bit_cast<std::uint32_t>(pixel); };
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::uint32_t a = word(upper[2 * i]);
-        const std::uint32_t b = word(upper[2 * i + 1]);
-        const std::uint32_t c = word(lower[2 * i]);
-        const std::uint32_t d = word(lower[2 * i + 1]);
-        const std::uint32_t even = (a & kHalves) + (b & kHalves) + (c & kHalves) + (d & kHalves) + kRounding;
-        const std::uint32_t odd =
-            (a >> 8 & kHalves) + (b >> 8 & kHalves) + (c >> 8 & kHalves) + (d >> 8 & kHalves) + kRounding;
-        out[i] = std::bit_cast<Pixel>((even >> 2 & kHalves) | (odd >> 2 & kHalves) << 8);
-    }
+void HalveRows(const Pixel* upper, const Pixel* lower, Pixel* out, std::size_t count) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        constexpr std::uint32_t kHalves = 0x00FF00FF;
+        constexpr std::uint32_t kRounding = 0x00020002;
+        const auto word = [](const Pixel& pixel) { return std::bit_cast<std::uint32_t>(pixel); };
+        for (std::size_t i = 0; i < count; ++i) {
+            const std::uint32_t a = word(upper[2 * i]);
+            const std::uint32_t b = word(upper[2 * i + 1]);
+            const std::uint32_t c = word(lower[2 * i]);
+            const std::uint32_t d = word(lower[2 * i + 1]);
+            const std::uint32_t even =
+                (a & kHalves) + (b & kHalves) + (c & kHalves) + (d & kHalves) + kRounding;
+            const std::uint32_t odd =
+                (a >> 8 & kHalves) + (b >> 8 & kHalves) + (c >> 8 & kHalves) + (d >> 8 & kHalves) + kRounding;
+            out[i] = std::bit_cast<Pixel>((even >> 2 & kHalves) | (odd >> 2 & kHalves) << 8);
+        }
+    });
 }
 
 // Whole shrinks need no weights: kx by ky pixels go to one.

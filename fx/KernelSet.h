@@ -1,6 +1,6 @@
 // The kernels of the "Image FX" panel as a set, in two forms that give the same bytes. The plain form reads
-// as the effects are told, step by step with checked 16-bit values, and is what tests trust; the fast form is
-// what users get.
+// as the effects' rules do, step by step with checked 16-bit values, and is what tests trust; the fast form
+// is what users get.
 #pragma once
 
 #include "fx/KernelFrame.h"

@@ -1,17 +1,11 @@
 #include "gradient/BandRows.h"
 
-#include "gradient/BlendChains.h"
-
 #include <algorithm>
 #include <cstring>
 #include <utility>
 
 namespace mirelle {
 namespace {
-
-using Alphas = BandRows::Alphas;
-using Columns = BandRows::Columns;
-using Way = BandRows::Way;
 
 bool IsStraight(const Band& band) {
     return band.to == band.from;
@@ -38,6 +32,16 @@ std::vector<Alphas> AlphasAlong(const std::vector<Band>& bands, int length, bool
     return alphas;
 }
 
+std::vector<std::optional<std::uint8_t>> LimitsOf(std::span<const Alphas> chains) {
+    std::vector<std::optional<std::uint8_t>> limits;
+    limits.reserve(chains.size());
+    for (std::size_t place = 0; place < chains.size(); ++place) {
+        const bool asBefore = place > 0 && chains[place] == chains[place - 1];
+        limits.push_back(asBefore ? limits.back() : LimitOf(chains[place]));
+    }
+    return limits;
+}
+
 constexpr std::size_t kPixelBytes = sizeof(Pixel);
 constexpr std::uint8_t kUntouched = 255; // the limits at the two ends
 constexpr std::uint8_t kSource = 0;
@@ -45,10 +49,6 @@ constexpr std::uint8_t kSource = 0;
 BlendRun RunOf(std::span<Pixel> to, std::span<const Pixel> was, const Pixel* from) {
     return {reinterpret_cast<std::uint8_t*>(to.data()), reinterpret_cast<const std::uint8_t*>(was.data()),
             reinterpret_cast<const std::uint8_t*>(from), to.size_bytes()};
-}
-
-BlendRun PartOf(const BlendRun& run, std::size_t begin, std::size_t bytes) {
-    return {run.to + begin, run.was + begin, run.from + begin, bytes};
 }
 
 void Leave(const BlendRun& run) {
@@ -59,52 +59,50 @@ void TakeSource(const BlendRun& run) {
     std::memcpy(run.to, run.from, run.bytes);
 }
 
-Way WayOf(const std::optional<std::uint8_t>& limit) {
+} // namespace
+
+BandRows::Stretch::Way BandRows::WayOf(const std::optional<std::uint8_t>& limit) {
+    using Way = Stretch::Way;
     if (!limit) return Way::Chain;
     if (*limit == kUntouched) return Way::Leave;
     return *limit == kSource ? Way::Copy : Way::Limit;
 }
 
-ChainTable TableOf(std::span<const Alphas> columns) {
-    std::size_t links = 0;
-    for (const Alphas& alphas : columns)
-        links = std::max(links, alphas.size());
-    ChainTable table(columns.size() * kPixelBytes, links);
-    for (std::size_t column = 0; column < columns.size(); ++column) {
-        for (std::size_t link = 0; link < columns[column].size(); ++link) {
-            for (std::size_t byte = 0; byte < kPixelBytes; ++byte)
-                table.Set(link, column * kPixelBytes + byte, columns[column][link]);
-        }
-    }
-    return table;
-}
-
-std::vector<Columns> WaysAcross(const std::vector<Alphas>& alphas) {
-    std::vector<std::optional<std::uint8_t>> limits;
-    limits.reserve(alphas.size());
-    for (std::size_t column = 0; column < alphas.size(); ++column) {
-        const bool asBefore = column > 0 && alphas[column] == alphas[column - 1];
-        limits.push_back(asBefore ? limits.back() : LimitOf(alphas[column]));
-    }
-    std::vector<Columns> ways;
-    for (std::size_t begin = 0; begin < alphas.size();) {
-        const Way way = WayOf(limits[begin]);
+// Columns side by side that are drawn in one way are drawn together.
+std::vector<BandRows::Stretch> BandRows::PlanColumns(std::span<const Alphas> chains) {
+    const auto limits = LimitsOf(chains);
+    std::vector<Stretch> stretches;
+    for (std::size_t begin = 0; begin < chains.size();) {
+        const Stretch::Way way = WayOf(limits[begin]);
         std::size_t end = begin + 1;
-        while (end < alphas.size() && WayOf(limits[end]) == way)
+        while (end < chains.size() && WayOf(limits[end]) == way)
             ++end;
-        Columns columns{way, begin * kPixelBytes, (end - begin) * kPixelBytes};
-        if (way == Way::Limit) {
+        Stretch stretch{begin * kPixelBytes, (end - begin) * kPixelBytes, way};
+        if (way == Stretch::Way::Limit) {
             for (std::size_t column = begin; column < end; ++column)
-                columns.limits.insert(columns.limits.end(), kPixelBytes, *limits[column]);
+                stretch.limits.insert(stretch.limits.end(), kPixelBytes, *limits[column]);
         }
-        if (way == Way::Chain) columns.chains = TableOf(std::span(alphas).subspan(begin, end - begin));
-        ways.push_back(std::move(columns));
+        if (way == Stretch::Way::Chain) {
+            stretch.chains = BlendChains(chains.subspan(begin, end - begin), kPixelBytes);
+        }
+        stretches.push_back(std::move(stretch));
         begin = end;
     }
-    return ways;
+    return stretches;
 }
 
-} // namespace
+std::vector<BandRows::Stretch> BandRows::PlanRows(std::span<const Alphas> chains, std::size_t rowBytes) {
+    const auto limits = LimitsOf(chains);
+    std::vector<Stretch> stretches;
+    stretches.reserve(chains.size());
+    for (std::size_t row = 0; row < chains.size(); ++row) {
+        Stretch stretch{0, rowBytes, WayOf(limits[row])};
+        if (limits[row]) stretch.limits = {*limits[row]};
+        if (stretch.way == Stretch::Way::Chain) stretch.chains = BlendChains(chains[row]);
+        stretches.push_back(std::move(stretch));
+    }
+    return stretches;
+}
 
 std::optional<BandRows> BandRows::Of(const std::vector<Band>& bands, int width, int height,
                                      const Bitmap& source) {
@@ -117,9 +115,10 @@ std::optional<BandRows> BandRows::Of(const std::vector<Band>& bands, int width, 
     if (!all(IsStraight)) return std::nullopt;
     BandRows rows(source, width, height);
     if (all([&](const Band& band) { return band.to.y <= 0 && band.to.Bottom() >= height; })) {
-        rows.across_ = WaysAcross(AlphasAlong(bands, width, true));
+        rows.across_ = PlanColumns(AlphasAlong(bands, width, true));
     } else if (all([&](const Band& band) { return band.to.x <= 0 && band.to.Right() >= width; })) {
-        rows.down_ = AlphasAlong(bands, height, false);
+        rows.down_ =
+            PlanRows(AlphasAlong(bands, height, false), static_cast<std::size_t>(width) * kPixelBytes);
     } else {
         return std::nullopt;
     }
@@ -131,35 +130,23 @@ void BandRows::Draw(int y, std::span<const Pixel> was, std::span<Pixel> row) con
     Leave(RunOf(row.subspan(width), was.subspan(width), nullptr));
     if (width == 0) return;
     const BlendRun run = RunOf(row.first(width), was.first(width), source_.Row(y).data());
-    if (!down_.empty()) return DrawRowDown(down_[static_cast<std::size_t>(y)], run);
-    for (const Columns& columns : across_)
-        DrawColumns(columns, PartOf(run, columns.begin, columns.bytes));
-}
-
-void BandRows::DrawColumns(const Columns& columns, const BlendRun& run) {
-    switch (columns.way) {
-    case Way::Leave:
-        return Leave(run);
-    case Way::Copy:
-        return TakeSource(run);
-    case Way::Limit:
-        return LimitDistances(run, columns.limits.data());
-    case Way::Chain:
-        return columns.chains->Blend(run);
+    const std::span<const Stretch> all = across_;
+    for (const Stretch& stretch : down_.empty() ? all : std::span(&down_[static_cast<std::size_t>(y)], 1)) {
+        stretch.Draw(
+            {run.to + stretch.begin, run.was + stretch.begin, run.from + stretch.begin, stretch.bytes});
     }
 }
 
-void BandRows::DrawRowDown(const Alphas& alphas, const BlendRun& run) {
-    const std::optional<std::uint8_t> limit = LimitOf(alphas);
-    switch (WayOf(limit)) {
+void BandRows::Stretch::Draw(const BlendRun& run) const {
+    switch (way) {
     case Way::Leave:
         return Leave(run);
     case Way::Copy:
         return TakeSource(run);
     case Way::Limit:
-        return LimitDistances(run, *limit);
+        return LimitDistances(run, limits);
     case Way::Chain:
-        return BlendChain(run, alphas);
+        return chains.Blend(run);
     }
 }
 

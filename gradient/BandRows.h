@@ -2,7 +2,8 @@
 //
 // Neighbouring bands overlap, up to a pixel in some twenty of them. Drawn band by band, the picture would go
 // through memory as often. Here each pixel is fetched once and takes all its blends, in the order of the
-// bands: the alphas that meet a column (or a row) are listed first, as the chain of that place.
+// bands: the alphas that meet a column (or a row) are listed first, as the chain of that place. All is
+// planned before the first row is drawn; drawing takes no memory and can't fail.
 #pragma once
 
 #include "forms/Picture.h"
@@ -29,28 +30,31 @@ public:
     // wide as the size told.
     void Draw(int y, std::span<const Pixel> was, std::span<Pixel> row) const;
 
-    using Alphas = std::vector<std::uint8_t>;
-    enum class Way { Leave, Copy, Limit, Chain };
-    // Columns side by side that are drawn in one way.
-    struct Columns {
-        Way way = Way::Leave;
-        std::size_t begin = 0; // bytes of a row
+private:
+    // Bytes of a row side by side, and the way in which all of them are drawn.
+    struct Stretch {
+        enum class Way { Leave, Copy, Limit, Chain };
+
+        void Draw(const BlendRun& run) const;
+
+        std::size_t begin = 0;
         std::size_t bytes = 0;
-        std::vector<std::uint8_t> limits{}; // for Limit: one for each byte
-        std::optional<ChainTable> chains{}; // for Chain
+        Way way = Way::Leave;
+        std::vector<std::uint8_t> limits{}; // for Limit: one for each byte, or one for all
+        BlendChains chains{};               // for Chain
     };
 
-private:
-    BandRows(const Bitmap& source, int width, int height) : source_(source), width_(width), height_(height) {}
+    static Stretch::Way WayOf(const std::optional<std::uint8_t>& limit);
+    static std::vector<Stretch> PlanColumns(std::span<const Alphas> chains);
+    static std::vector<Stretch> PlanRows(std::span<const Alphas> chains, std::size_t rowBytes);
 
-    static void DrawColumns(const Columns& columns, const BlendRun& run);
-    static void DrawRowDown(const Alphas& alphas, const BlendRun& run);
+    BandRows(const Bitmap& source, int width, int height) : source_(source), width_(width), height_(height) {}
 
     const Bitmap& source_;
     int width_; // of what destination and source have in common
     int height_;
-    std::vector<Columns> across_;
-    std::vector<Alphas> down_; // one of the two is empty
+    std::vector<Stretch> across_; // of every row
+    std::vector<Stretch> down_;   // a row each; one of the two is empty
 };
 
 } // namespace mirelle

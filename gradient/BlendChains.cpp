@@ -17,7 +17,7 @@ constexpr std::size_t kBlock = 256;
 using Bytes = std::array<std::uint8_t, kBlock>;
 
 // distance x factor / 32768 to the nearest whole number, which vector code has as one step in 16 bits.
-inline std::int16_t Step(std::int16_t distance, std::int16_t factor) {
+MIRELLE_INLINE std::int16_t Step(std::int16_t distance, std::int16_t factor) {
     return static_cast<std::int16_t>((((std::int32_t{distance} * std::int32_t{factor}) >> 14) + 1) >> 1);
 }
 
@@ -42,45 +42,27 @@ const std::array<std::int16_t, 256>& Factors() {
     return factors;
 }
 
-inline std::uint8_t Distance(std::uint8_t a, std::uint8_t b) {
+MIRELLE_INLINE std::uint8_t Distance(std::uint8_t a, std::uint8_t b) {
     return static_cast<std::uint8_t>(std::max(a, b) - std::min(a, b));
 }
 
 // At this distance from the source's byte, on the side where the byte was.
-inline std::uint8_t Moved(std::uint8_t was, std::uint8_t source, std::uint8_t distance) {
+MIRELLE_INLINE std::uint8_t Moved(std::uint8_t was, std::uint8_t source, std::uint8_t distance) {
     const auto above = static_cast<std::uint8_t>(source + distance);
     const auto below = static_cast<std::uint8_t>(source - distance);
     return was > source ? above : below;
 }
 
-// A block through its chains; the factors of link k begin at factors[k * stride].
-MIRELLE_VERSIONS
-void BlendBlock(std::uint8_t* to, const std::uint8_t* was, const std::uint8_t* from,
-                const std::int16_t* factors, std::size_t stride, std::size_t links) {
+// A block through its chains; factorOf(link, i) is that of its byte i.
+template <class FactorOf>
+MIRELLE_INLINE void BlendBlock(std::uint8_t* to, const std::uint8_t* was, const std::uint8_t* from,
+                               std::size_t links, const FactorOf& factorOf) {
     std::array<std::int16_t, kBlock> distances;
     for (std::size_t i = 0; i < kBlock; ++i)
         distances[i] = Distance(was[i], from[i]);
     for (std::size_t link = 0; link < links; ++link) {
-        const std::int16_t* here = factors + link * stride;
         for (std::size_t i = 0; i < kBlock; ++i)
-            distances[i] = static_cast<std::int16_t>(distances[i] - Step(distances[i], here[i]));
-    }
-    MIRELLE_INDEPENDENT
-    for (std::size_t i = 0; i < kBlock; ++i)
-        to[i] = Moved(was[i], from[i], static_cast<std::uint8_t>(distances[i]));
-}
-
-// The same with one chain for all bytes.
-MIRELLE_VERSIONS
-void BlendBlockAlike(std::uint8_t* to, const std::uint8_t* was, const std::uint8_t* from,
-                     const std::int16_t* factors, std::size_t links) {
-    std::array<std::int16_t, kBlock> distances;
-    for (std::size_t i = 0; i < kBlock; ++i)
-        distances[i] = Distance(was[i], from[i]);
-    for (std::size_t link = 0; link < links; ++link) {
-        const std::int16_t factor = factors[link];
-        for (std::size_t i = 0; i < kBlock; ++i)
-            distances[i] = static_cast<std::int16_t>(distances[i] - Step(distances[i], factor));
+            distances[i] = static_cast<std::int16_t>(distances[i] - Step(distances[i], factorOf(link, i)));
     }
     MIRELLE_INDEPENDENT
     for (std::size_t i = 0; i < kBlock; ++i)
@@ -90,7 +72,7 @@ void BlendBlockAlike(std::uint8_t* to, const std::uint8_t* was, const std::uint8
 // Runs work(to, was, from, at) over all blocks of a run, `at` the first of the run's bytes; what does not
 // fill the last one is done in a copy.
 template <class Work>
-void EachBlock(const BlendRun& run, const Work& work) {
+MIRELLE_INLINE void EachBlock(const BlendRun& run, const Work& work) {
     std::size_t at = 0;
     for (; at + kBlock <= run.bytes; at += kBlock)
         work(run.to + at, run.was + at, run.from + at, at);
@@ -103,36 +85,62 @@ void EachBlock(const BlendRun& run, const Work& work) {
     std::memcpy(run.to + at, last.data(), run.bytes - at);
 }
 
+std::size_t WholeBlocks(std::size_t bytes) {
+    return (bytes + kBlock - 1) / kBlock * kBlock;
+}
+
+std::size_t LongestOf(std::span<const Alphas> chains) {
+    std::size_t links = 0;
+    for (const Alphas& alphas : chains)
+        links = std::max(links, alphas.size());
+    return links;
+}
+
 } // namespace
 
-ChainTable::ChainTable(std::size_t bytes, std::size_t links)
-    : stride_((bytes + kBlock - 1) / kBlock * kBlock), links_(links), factors_(stride_ * links) {}
-
-void ChainTable::Set(std::size_t link, std::size_t byte, std::uint8_t alpha) {
-    factors_[link * stride_ + byte] = Factors()[alpha];
-}
-
-void ChainTable::Blend(const BlendRun& run) const {
-    EachBlock(run, [this](auto* to, auto* was, auto* from, std::size_t at) {
-        BlendBlock(to, was, from, factors_.data() + at, stride_, links_);
-    });
-}
-
-void BlendChain(const BlendRun& run, std::span<const std::uint8_t> alphas) {
-    std::vector<std::int16_t> factors;
-    factors.reserve(alphas.size());
+BlendChains::BlendChains(const Alphas& alphas) : links_(alphas.size()), stride_(1) {
     for (const std::uint8_t alpha : alphas)
-        factors.push_back(Factors()[alpha]);
-    EachBlock(run, [&](auto* to, auto* was, auto* from, std::size_t) {
-        BlendBlockAlike(to, was, from, factors.data(), factors.size());
-    });
+        factors_.push_back(Factors()[alpha]);
 }
 
-std::optional<std::uint8_t> LimitOf(std::span<const std::uint8_t> alphas) {
+BlendChains::BlendChains(std::span<const Alphas> chains, std::size_t bytesOfEach)
+    : links_(LongestOf(chains)), stride_(WholeBlocks(chains.size() * bytesOfEach)),
+      factors_(stride_ * links_) {
+    for (std::size_t chain = 0; chain < chains.size(); ++chain) {
+        for (std::size_t link = 0; link < chains[chain].size(); ++link) {
+            std::fill_n(&factors_[link * stride_ + chain * bytesOfEach], bytesOfEach,
+                        Factors()[chains[chain][link]]);
+        }
+    }
+}
+
+void BlendChains::Blend(const BlendRun& run) const {
+    const std::int16_t* factors = factors_.data();
+    const std::size_t links = links_;
+    const std::size_t stride = stride_;
+    if (stride == 1) {
+        InBestVersion([=]() MIRELLE_LAMBDA {
+            EachBlock(run, [=](auto* to, auto* was, auto* from, std::size_t) MIRELLE_LAMBDA {
+                BlendBlock(to, was, from, links,
+                           [=](std::size_t link, std::size_t) MIRELLE_LAMBDA { return factors[link]; });
+            });
+        });
+    } else {
+        InBestVersion([=]() MIRELLE_LAMBDA {
+            EachBlock(run, [=](auto* to, auto* was, auto* from, std::size_t at) MIRELLE_LAMBDA {
+                BlendBlock(to, was, from, links, [=](std::size_t link, std::size_t i) MIRELLE_LAMBDA {
+                    return factors[link * stride + at + i];
+                });
+            });
+        });
+    }
+}
+
+std::optional<std::uint8_t> LimitOf(const Alphas& alphas) {
     Bytes distances;
     std::iota(distances.begin(), distances.end(), std::uint8_t{0});
     const Bytes source{};
-    BlendChain({distances.data(), distances.data(), source.data(), kBlock}, alphas);
+    BlendChains(alphas).Blend({distances.data(), distances.data(), source.data(), kBlock});
     const std::uint8_t limit = distances.back();
     for (std::size_t distance = 0; distance < kBlock; ++distance) {
         if (distances[distance] != std::min<std::size_t>(distance, limit)) return std::nullopt;
@@ -140,20 +148,21 @@ std::optional<std::uint8_t> LimitOf(std::span<const std::uint8_t> alphas) {
     return limit;
 }
 
-MIRELLE_VERSIONS
-void LimitDistances(const BlendRun& run, const std::uint8_t* limits) {
-    const auto [to, was, from, bytes] = run;
-    MIRELLE_INDEPENDENT
-    for (std::size_t i = 0; i < bytes; ++i)
-        to[i] = Moved(was[i], from[i], std::min(Distance(was[i], from[i]), limits[i]));
-}
-
-MIRELLE_VERSIONS
-void LimitDistances(const BlendRun& run, std::uint8_t limit) {
-    const auto [to, was, from, bytes] = run;
-    MIRELLE_INDEPENDENT
-    for (std::size_t i = 0; i < bytes; ++i)
-        to[i] = Moved(was[i], from[i], std::min(Distance(was[i], from[i]), limit));
+void LimitDistances(const BlendRun& run, std::span<const std::uint8_t> limits) {
+    const auto limitAll = [=](const auto& limitOf) MIRELLE_LAMBDA {
+        const auto [to, was, from, bytes] = run;
+        MIRELLE_INDEPENDENT
+        for (std::size_t i = 0; i < bytes; ++i)
+            to[i] = Moved(was[i], from[i], std::min(Distance(was[i], from[i]), limitOf(i)));
+    };
+    if (limits.size() == 1) {
+        InBestVersion([=, limit = limits[0]]()
+                          MIRELLE_LAMBDA { limitAll([=](std::size_t) MIRELLE_LAMBDA { return limit; }); });
+    } else {
+        InBestVersion([=, each = limits.data()]() MIRELLE_LAMBDA {
+            limitAll([=](std::size_t i) MIRELLE_LAMBDA { return each[i]; });
+        });
+    }
 }
 
 } // namespace mirelle

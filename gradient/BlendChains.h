@@ -14,6 +14,9 @@
 
 namespace mirelle {
 
+// The alphas of a chain, in the order of the blends.
+using Alphas = std::vector<std::uint8_t>;
+
 // Bytes that are moved toward others. `to` may be `was`.
 struct BlendRun {
     std::uint8_t* to;         // where the results go
@@ -22,30 +25,29 @@ struct BlendRun {
     std::size_t bytes;
 };
 
-// What the chain of these alphas, in their order, leaves of every distance at most, where it leaves the
-// shorter ones as they are. 255 changes nothing, 0 gives the source. Nothing for any other chain.
-std::optional<std::uint8_t> LimitOf(std::span<const std::uint8_t> alphas);
+// What the chain of these alphas leaves of every distance at most, where it leaves the shorter ones as they
+// are. 255 changes nothing, 0 gives the source. Nothing for any other chain.
+std::optional<std::uint8_t> LimitOf(const Alphas& alphas);
 
-// Each byte comes as near to the source's as its limit tells, or as the one limit of all.
-void LimitDistances(const BlendRun& run, const std::uint8_t* limits);
-void LimitDistances(const BlendRun& run, std::uint8_t limit);
+// Each byte comes as near to the source's as its limit tells: one for each, or a single one for all.
+void LimitDistances(const BlendRun& run, std::span<const std::uint8_t> limits);
 
-// A chain for each byte of a run, all of so many links. A link that has not been set leaves its byte.
-class ChainTable {
+// Chains ready to be drawn, which takes no memory any more.
+class BlendChains {
 public:
-    ChainTable(std::size_t bytes, std::size_t links);
+    // No chain, which leaves every byte.
+    BlendChains() = default;
+    // One chain for all bytes of a run.
+    explicit BlendChains(const Alphas& alphas);
+    // Each chain for so many bytes of a run side by side, which begins with those of the first chain.
+    BlendChains(std::span<const Alphas> chains, std::size_t bytesOfEach);
 
-    void Set(std::size_t link, std::size_t byte, std::uint8_t alpha);
-    // The run begins with the table's first byte.
     void Blend(const BlendRun& run) const;
 
 private:
-    std::size_t stride_;
-    std::size_t links_;
-    std::vector<std::int16_t> factors_; // link after link
+    std::size_t links_ = 0;  // of the longest chain; what a shorter one lacks leaves its bytes
+    std::size_t stride_ = 1; // from a link's factors to those of the next; 1 where all bytes have the same
+    std::vector<std::int16_t> factors_;
 };
-
-// One chain for all bytes.
-void BlendChain(const BlendRun& run, std::span<const std::uint8_t> alphas);
 
 } // namespace mirelle

@@ -14,9 +14,11 @@ namespace {
 constexpr std::size_t kShortestSlice = 512;
 
 // Eight rows of pixels, from the view or, where that reaches beyond its memory, from `scratch`.
-BlockRow RowOfBlocks(const PlaneView& view, std::size_t down, int width, std::span<std::uint8_t> scratch) {
+BlockRow RowOfBlocks(const PlaneView& view, std::size_t component, std::size_t down, int width,
+                     std::span<std::uint8_t> scratch) {
     BlockRow row;
     row.pixelBytes = view.pixelBytes;
+    row.component = component;
     row.blocks = static_cast<std::size_t>(width) / 8;
     const std::size_t rowBytes = scratch.size() / 8;
     for (std::size_t i = 0; i < 8; ++i) {
@@ -38,7 +40,6 @@ void TransformComponent(Component& component, std::size_t index, const QuantTabl
     Array<std::span<const AcSymbol>> acSymbols(blocks);
 
     const TransposedFactors factors = Transposed(table);
-    const TransformBlockRow transform = WaysToTransform()[0];
     const Slices slices(blocksDown, kShortestSlice / blocksAcross + 1);
     std::vector<AcSymbolStore> stores(slices.Number());
     RunShared(slices, [&](std::size_t slice) {
@@ -47,9 +48,8 @@ void TransformComponent(Component& component, std::size_t index, const QuantTabl
         Array<std::int16_t> values(64 * blocksAcross);
         Array<std::uint64_t> nonZero(blocksAcross);
         for (std::size_t down = slices.Begin(slice); down < slices.End(slice); ++down) {
-            BlockRow row = RowOfBlocks(view, down, plane.xa, scratch);
-            row.component = index;
-            transform(row, factors, values.Data(), nonZero.Data());
+            const BlockRow row = RowOfBlocks(view, index, down, plane.xa, scratch);
+            TransformBlocks(row, factors, values.Data(), nonZero.Data());
             for (std::size_t across = 0; across < blocksAcross; ++across) {
                 const std::int16_t* ofBlock = &values[64 * across];
                 const std::size_t block = down * blocksAcross + across;

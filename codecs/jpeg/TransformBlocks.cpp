@@ -3,18 +3,9 @@
 #include "codecs/jpeg/Colour.h"
 #include "codecs/jpeg/ForwardDCT.h"
 #include "codecs/jpeg/Tables.h"
-#include "forms/FunctionVersions.h"
 
 #include <bit>
 #include <cstring>
-
-// Everything is compiled twice: for every processor of the kind, and for those with registers of 32 bytes.
-#if defined(__GNUC__) && defined(__x86_64__)
-#define MIRELLE_HAS_WIDE_REGISTERS 1
-#define MIRELLE_WIDE_REGISTERS __attribute__((target("avx2")))
-#else
-#define MIRELLE_HAS_WIDE_REGISTERS 0
-#endif
 
 namespace mirelle::jpeg {
 namespace {
@@ -75,8 +66,8 @@ MIRELLE_INLINE std::uint64_t NonZeroBits(const std::int16_t* values) {
 }
 
 template <std::size_t pixelBytes, std::size_t component>
-MIRELLE_INLINE void TransformBlocks(const BlockRow& row, const TransposedFactors& factors,
-                                    std::int16_t* values, std::uint64_t* nonZero) {
+MIRELLE_INLINE void TransformRow(const BlockRow& row, const TransposedFactors& factors, std::int16_t* values,
+                                 std::uint64_t* nonZero) {
     for (std::size_t block = 0; block < row.blocks; ++block) {
         Lanes lanes;
         for (std::size_t i = 0; i < 8; ++i) {
@@ -93,35 +84,23 @@ MIRELLE_INLINE void TransformBlocks(const BlockRow& row, const TransposedFactors
         nonZero[block] = NonZeroBits(values + 64 * block);
 }
 
-MIRELLE_INLINE void Transform(const BlockRow& row, const TransposedFactors& factors, std::int16_t* values,
-                              std::uint64_t* nonZero) {
-    switch (row.component + (row.pixelBytes == 3 ? 3 : 0)) {
-    case 0:
-        return TransformBlocks<4, 0>(row, factors, values, nonZero);
-    case 1:
-        return TransformBlocks<4, 1>(row, factors, values, nonZero);
-    case 2:
-        return TransformBlocks<4, 2>(row, factors, values, nonZero);
-    case 3:
-        return TransformBlocks<3, 0>(row, factors, values, nonZero);
-    case 4:
-        return TransformBlocks<3, 1>(row, factors, values, nonZero);
-    default:
-        return TransformBlocks<3, 2>(row, factors, values, nonZero);
-    }
+using Transform = void (*)(const BlockRow& row, const TransposedFactors& factors, std::int16_t* values,
+                           std::uint64_t* nonZero, Registers registers);
+
+template <std::size_t pixelBytes, std::size_t component>
+void TransformInVersion(const BlockRow& row, const TransposedFactors& factors, std::int16_t* values,
+                        std::uint64_t* nonZero, Registers registers) {
+    // Eight values fill 32 bytes; with wider registers GCC spends more on arranging them than it saves.
+    InVersion<Registers::Of32Bytes>(registers, [=]() MIRELLE_LAMBDA {
+        TransformRow<pixelBytes, component>(row, factors, values, nonZero);
+    });
 }
 
-void TransformAnywhere(const BlockRow& row, const TransposedFactors& factors, std::int16_t* values,
-                       std::uint64_t* nonZero) {
-    Transform(row, factors, values, nonZero);
-}
-
-#if MIRELLE_HAS_WIDE_REGISTERS
-MIRELLE_WIDE_REGISTERS void TransformWide(const BlockRow& row, const TransposedFactors& factors,
-                                          std::int16_t* values, std::uint64_t* nonZero) {
-    Transform(row, factors, values, nonZero);
-}
-#endif
+// By the bytes of a pixel, from 3 on, and by component.
+constexpr std::array<std::array<Transform, 3>, 2> kTransforms = {{
+    {TransformInVersion<3, 0>, TransformInVersion<3, 1>, TransformInVersion<3, 2>},
+    {TransformInVersion<4, 0>, TransformInVersion<4, 1>, TransformInVersion<4, 2>},
+}};
 
 } // namespace
 
@@ -132,11 +111,9 @@ TransposedFactors Transposed(const QuantTable& table) {
     return factors;
 }
 
-std::array<TransformBlockRow, 2> WaysToTransform() {
-#if MIRELLE_HAS_WIDE_REGISTERS
-    if (__builtin_cpu_supports("avx2")) return {TransformWide, TransformAnywhere};
-#endif
-    return {TransformAnywhere, TransformAnywhere};
+void TransformBlocks(const BlockRow& row, const TransposedFactors& factors, std::int16_t* values,
+                     std::uint64_t* nonZero, Registers registers) {
+    kTransforms[row.pixelBytes - 3][row.component](row, factors, values, nonZero, registers);
 }
 
 } // namespace mirelle::jpeg

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "codecs/jpeg/Frame.h"
+#include "forms/FunctionVersions.h"
 
 #include <array>
 #include <cstddef>
@@ -17,16 +18,13 @@ TransposedFactors Transposed(const QuantTable& table);
 struct BlockRow {
     std::array<const std::uint8_t*, 8> pixels{}; // where each of its rows begins: blue, green, red, ...
     std::size_t pixelBytes = 4;                  // 3 or 4
-    std::size_t component = 0;
+    std::size_t component = 0;                   // 0, 1 or 2
     std::size_t blocks = 0;
 };
 
 // Writes 64 values in zig-zag order for each block to `values`, and for each block to `nonZero` which of them
-// are not 0.
-using TransformBlockRow = void (*)(const BlockRow& row, const TransposedFactors& factors,
-                                   std::int16_t* values, std::uint64_t* nonZero);
-
-// The ways in which this processor can do that, the best first. All give the same values.
-std::array<TransformBlockRow, 2> WaysToTransform();
+// are not 0. The registers, which the processor has to have, change nothing but the time.
+void TransformBlocks(const BlockRow& row, const TransposedFactors& factors, std::int16_t* values,
+                     std::uint64_t* nonZero, Registers registers = RegistersInUse());
 
 } // namespace mirelle::jpeg

@@ -20,18 +20,20 @@ inline void PutColours(std::uint8_t* to, const std::uint8_t* from) {
 
 } // namespace
 
-MIRELLE_VERSIONS
 void ClearFourthBytes(std::span<Pixel> row) {
-    auto* bytes = reinterpret_cast<std::uint8_t*>(row.data());
-    for (std::size_t at = 0; at < row.size_bytes(); at += sizeof(Pixel))
-        PutColours(bytes + at, bytes + at);
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        auto* bytes = reinterpret_cast<std::uint8_t*>(row.data());
+        for (std::size_t at = 0; at < row.size_bytes(); at += sizeof(Pixel))
+            PutColours(bytes + at, bytes + at);
+    });
 }
 
-MIRELLE_VERSIONS
 void CopyWithFourthBytesClear(const std::uint8_t* from, std::span<Pixel> row) {
-    auto* to = reinterpret_cast<std::uint8_t*>(row.data());
-    for (std::size_t at = 0; at < row.size_bytes(); at += sizeof(Pixel))
-        PutColours(to + at, from + at);
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        auto* to = reinterpret_cast<std::uint8_t*>(row.data());
+        for (std::size_t at = 0; at < row.size_bytes(); at += sizeof(Pixel))
+            PutColours(to + at, from + at);
+    });
 }
 
 } // namespace mirelle

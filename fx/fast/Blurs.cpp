@@ -1,5 +1,5 @@
 #include "fx/fast/FastKernels.h"
-#include "fx/fast/Lanes.h"
+#include "fx/fast/PixelRuns.h"
 
 namespace mirelle::fast {
 namespace {
@@ -7,16 +7,13 @@ namespace {
 // What a blur remembers is pixels of the source, not of its result, so every pixel can be done for itself:
 // the remembered pixels are the source again, moved by one and by two.
 
-MIRELLE_VERSIONS void Copied(const Pixel* source, Pixel* destination, std::size_t pixels) {
-    EachWord(
-        pixels, destination, [](std::size_t, std::uint32_t s) MIRELLE_LAMBDA { return s; }, source);
-}
-
-MIRELLE_VERSIONS void Averaged(const Pixel* c, const Pixel* p, Pixel* destination, std::size_t pixels) {
-    EachWord(
-        pixels, destination,
-        [](std::size_t, std::uint32_t cs, std::uint32_t ps) MIRELLE_LAMBDA { return MeanToEven(cs, ps); }, c,
-        p);
+void Averaged(const Pixel* c, const Pixel* p, Pixel* destination, std::size_t pixels) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        EachWord(
+            pixels, destination,
+            [](std::size_t, std::uint32_t cs, std::uint32_t ps) MIRELLE_LAMBDA { return MeanToEven(cs, ps); },
+            c, p);
+    });
 }
 
 // ((c + p1) / 2 + p2) / 2, which is a quarter of c + p1 + 2 p2; the halving between loses nothing in a float.
@@ -31,13 +28,14 @@ MIRELLE_INLINE std::uint32_t QuarterToEven(std::uint32_t c, std::uint32_t p1, st
     return cut + (half & (quarter | cut) & kEveryLowBit);
 }
 
-MIRELLE_VERSIONS void AveragedMore(const Pixel* c, const Pixel* p1, const Pixel* p2, Pixel* destination,
-                                   std::size_t pixels) {
-    EachWord(
-        pixels, destination,
-        [](std::size_t, std::uint32_t cs, std::uint32_t p1s, std::uint32_t p2s)
-            MIRELLE_LAMBDA { return QuarterToEven(cs, p1s, p2s); },
-        c, p1, p2);
+void AveragedMore(const Pixel* c, const Pixel* p1, const Pixel* p2, Pixel* destination, std::size_t pixels) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        EachWord(
+            pixels, destination,
+            [](std::size_t, std::uint32_t cs, std::uint32_t p1s, std::uint32_t p2s)
+                MIRELLE_LAMBDA { return QuarterToEven(cs, p1s, p2s); },
+            c, p1, p2);
+    });
 }
 
 } // namespace
@@ -46,7 +44,7 @@ void FXBlur(const KernelFrame& frame, const KernelArguments&) {
     const Pixel* source = frame.source.data();
     Pixel* destination = frame.destination.data();
     const auto width = static_cast<std::size_t>(frame.width);
-    Copied(source, destination, width);
+    CopyPixels(source, destination, width);
     Averaged(source + width, source + width - 1, destination + width, frame.source.size() - width);
 }
 
@@ -55,7 +53,7 @@ void FXBlurMore(const KernelFrame& frame, const KernelArguments&) {
     Pixel* destination = frame.destination.data();
     const auto width = static_cast<std::size_t>(frame.width);
     const std::size_t size = frame.source.size();
-    Copied(source, destination, width);
+    CopyPixels(source, destination, width);
     if (size == width) return;
     // Row 0 leaves its last pixel in both places.
     const Pixel* last = source + width - 1;
@@ -66,7 +64,7 @@ void FXBlurMore(const KernelFrame& frame, const KernelArguments&) {
 void FXBlurMoreVert(const KernelFrame& frame, const KernelArguments&) {
     const auto width = static_cast<std::size_t>(frame.width);
     const auto row = [&](int y) { return frame.source.data() + static_cast<std::size_t>(y) * width; };
-    Copied(row(0), frame.destination.data(), width);
+    CopyPixels(row(0), frame.destination.data(), width);
     for (int y = 1; y < frame.height; ++y) {
         Pixel* destination = frame.destination.data() + static_cast<std::size_t>(y) * width;
         AveragedMore(row(y), row(y - 1), y == 1 ? row(0) : row(y - 2), destination, width);

@@ -77,23 +77,14 @@ Offsets OffsetsFor(const ContrastTable& table, const ContrastLine& line, std::in
 }
 
 template <bool hasOffset>
-MIRELLE_INLINE void FollowLine(const ContrastLine& line, const Pixel* from, Pixel* to, std::size_t pixels) {
-    const ContrastLine fixed = line;
+void FollowLine(const ContrastLine& line, const Pixel* from, Pixel* to, std::size_t pixels) {
     const std::uint16_t scale = ScaleOf(line);
     const std::int16_t turn = TurnOf(line);
-    EachWideByte(
-        pixels, to, [=](std::uint16_t c) MIRELLE_LAMBDA { return Moved<hasOffset>(fixed, scale, turn, c); },
-        from);
-}
-
-MIRELLE_VERSIONS void FollowLineThrough127(const ContrastLine& line, const Pixel* from, Pixel* to,
-                                           std::size_t pixels) {
-    FollowLine<false>(line, from, to, pixels);
-}
-
-MIRELLE_VERSIONS void FollowLineWithOffset(const ContrastLine& line, const Pixel* from, Pixel* to,
-                                           std::size_t pixels) {
-    FollowLine<true>(line, from, to, pixels);
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        EachWideByte(
+            pixels, to,
+            [=](std::uint16_t c) MIRELLE_LAMBDA { return Moved<hasOffset>(line, scale, turn, c); }, from);
+    });
 }
 
 } // namespace
@@ -127,9 +118,9 @@ std::optional<ContrastLine> FitContrastLine(const ContrastTable& table, double s
 
 void ContrastByLine(const ContrastLine& line, const Pixel* from, Pixel* to, std::size_t pixels) {
     if (line.offset == 0) {
-        FollowLineThrough127(line, from, to, pixels);
+        FollowLine<false>(line, from, to, pixels);
     } else {
-        FollowLineWithOffset(line, from, to, pixels);
+        FollowLine<true>(line, from, to, pixels);
     }
 }
 

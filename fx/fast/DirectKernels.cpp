@@ -1,48 +1,28 @@
 #include "fx/fast/FastKernels.h"
-#include "fx/fast/Lanes.h"
+#include "fx/fast/PixelRuns.h"
 #include "fx/plain/PlainKernels.h"
 
-#include <algorithm>
 #include <limits>
 
 namespace mirelle::fast {
 namespace {
 
-// Byte by byte: what a channel gains and loses. One of the two is 0.
-struct Shift {
-    BlockPattern gain;
-    BlockPattern loss;
-};
-
-MIRELLE_VERSIONS void Negated(const Pixel* source, Pixel* destination, std::size_t pixels) {
-    EachWord(
-        pixels, destination, [](std::size_t, std::uint32_t s) MIRELLE_LAMBDA { return ~s; }, source);
+void RedAndBlueExchanged(const Pixel* source, Pixel* destination, std::size_t pixels) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        EachWord(
+            pixels, destination,
+            [](std::size_t, std::uint32_t s)
+                MIRELLE_LAMBDA { return (s >> 16 & 0xFF) | (s & 0xFF00) | (s & 0xFF) << 16; },
+            source);
+    });
 }
 
-MIRELLE_VERSIONS void RedAndBlueExchanged(const Pixel* source, Pixel* destination, std::size_t pixels) {
-    EachWord(
-        pixels, destination,
-        [](std::size_t, std::uint32_t s)
-            MIRELLE_LAMBDA { return (s >> 16 & 0xFF) | (s & 0xFF00) | (s & 0xFF) << 16; },
-        source);
-}
-
-MIRELLE_VERSIONS void Masked(const Pixel* source, Pixel* destination, std::size_t pixels,
-                             std::uint32_t mask) {
-    EachWord(
-        pixels, destination, [mask](std::size_t, std::uint32_t s) MIRELLE_LAMBDA { return s & mask; },
-        source);
-}
-
-MIRELLE_VERSIONS void Shifted(const Pixel* source, Pixel* destination, std::size_t pixels,
-                              const Shift& shift) {
-    const BlockPattern gain = shift.gain;
-    const BlockPattern loss = shift.loss;
-    EachByte(
-        pixels, destination,
-        [&](std::size_t k, std::uint8_t c)
-            MIRELLE_LAMBDA { return DifferenceTo0(SumTo255(c, gain[k]), loss[k]); },
-        source);
+void Masked(const Pixel* source, Pixel* destination, std::size_t pixels, std::uint32_t mask) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        EachWord(
+            pixels, destination, [mask](std::size_t, std::uint32_t s) MIRELLE_LAMBDA { return s & mask; },
+            source);
+    });
 }
 
 // |255 - 3c| x 1.2, where more than 255 counts as 255. With d = |c - 85| it is 3.6 d, which ends in no half,
@@ -54,27 +34,34 @@ MIRELLE_INLINE std::uint16_t FromGreyLevel85(std::uint16_t c) {
     return WideLeast(HighProduct(static_cast<std::uint16_t>(18 * d + 2), 13108), 255);
 }
 
-MIRELLE_VERSIONS void MadeVivid(const Pixel* source, Pixel* destination, std::size_t pixels) {
-    EachWideByte(
-        pixels, destination, [](std::uint16_t c) MIRELLE_LAMBDA { return FromGreyLevel85(c); }, source);
+void MadeVivid(const Pixel* source, Pixel* destination, std::size_t pixels) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        EachWideByte(
+            pixels, destination, [](std::uint16_t c) MIRELLE_LAMBDA { return FromGreyLevel85(c); }, source);
+    });
 }
 
-MIRELLE_VERSIONS void NeonNegated(const Pixel* source, Pixel* destination, std::size_t pixels) {
-    EachWideByte(
-        pixels, destination,
-        [](std::uint16_t c) MIRELLE_LAMBDA { return static_cast<std::uint16_t>(255 - FromGreyLevel85(c)); },
-        source);
+void NeonNegated(const Pixel* source, Pixel* destination, std::size_t pixels) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        EachWideByte(
+            pixels, destination,
+            [](std::uint16_t c)
+                MIRELLE_LAMBDA { return static_cast<std::uint16_t>(255 - FromGreyLevel85(c)); },
+            source);
+    });
 }
 
 // 3c / 1.2 is 2c and half of c; from c = 102 on it is 255 or more.
-MIRELLE_VERSIONS void NegatedMore(const Pixel* source, Pixel* destination, std::size_t pixels) {
-    EachByte(
-        pixels, destination,
-        [](std::size_t, std::uint8_t c) MIRELLE_LAMBDA {
-            const std::uint8_t limited = Least(c, 102);
-            return static_cast<std::uint8_t>(~(2 * limited + HalfToEven(limited)));
-        },
-        source);
+void NegatedMore(const Pixel* source, Pixel* destination, std::size_t pixels) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        EachByte(
+            pixels, destination,
+            [](std::size_t, std::uint8_t c) MIRELLE_LAMBDA {
+                const std::uint8_t limited = Least(c, 102);
+                return static_cast<std::uint8_t>(~(2 * limited + HalfToEven(limited)));
+            },
+            source);
+    });
 }
 
 // Whether a channel and this amount add up within 16 bits.
@@ -83,16 +70,14 @@ bool CanAdd(int amount) {
 }
 
 void AddAmounts(const KernelFrame& frame, int red, int green, int blue) {
-    const auto gain = [](int amount) { return static_cast<std::uint8_t>(std::clamp(amount, 0, 255)); };
-    const Shift shift{BlockPattern::Of(gain(blue), gain(green), gain(red)),
-                      BlockPattern::Of(gain(-blue), gain(-green), gain(-red))};
-    Shifted(frame.source.data(), frame.destination.data(), frame.source.size(), shift);
+    ShiftPixels(frame.source.data(), frame.destination.data(), frame.source.size(),
+                ChannelShift::Of(blue, green, red));
 }
 
 } // namespace
 
 void FXNegate(const KernelFrame& frame, const KernelArguments&) {
-    Negated(frame.source.data(), frame.destination.data(), frame.source.size());
+    InvertPixels(frame.source.data(), frame.destination.data(), frame.source.size());
 }
 
 void FXIncoherence(const KernelFrame& frame, const KernelArguments&) {

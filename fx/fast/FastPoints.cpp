@@ -1,5 +1,5 @@
 #include "forms/RunTimeError.h"
-#include "fx/fast/PointRows.h"
+#include "fx/fast/PixelRuns.h"
 #include "fx/PointSet.h"
 
 #include <algorithm>
@@ -11,7 +11,7 @@ namespace {
 
 enum class ReadOrder { LeftToRight, RightToLeft };
 
-// How many pixels of row y the told loop writes before a subscript leaves one of the arrays. Read from the
+// How many pixels of row y the plain loop writes before a subscript leaves one of the arrays. Read from the
 // right, a source array that is narrower than its record fails at once.
 int PixelsOfRow(const PixelFrame& source, const PixelFrame& destination, int y, int sourceY,
                 ReadOrder order) {
@@ -56,22 +56,22 @@ void EachRow(const PixelFrame& source, PixelFrame& destination, const Work& work
 }
 
 void Invert(const PixelFrame& source, PixelFrame& destination, const PointArguments&) {
-    EachRow(source, destination, InvertRow);
+    EachRow(source, destination, InvertPixels);
 }
 
 void FlipVertical(const PixelFrame& source, PixelFrame& destination, const PointArguments&) {
     const int last = source.info.bmHeight - 1;
     EachRow(
-        source, destination, ReadOrder::LeftToRight, [last](int y) { return last - y; }, CopyRow);
+        source, destination, ReadOrder::LeftToRight, [last](int y) { return last - y; }, CopyPixels);
 }
 
 void FlipHorizontal(const PixelFrame& source, PixelFrame& destination, const PointArguments&) {
     EachRow(
-        source, destination, ReadOrder::RightToLeft, [](int y) { return y; }, ReverseRow);
+        source, destination, ReadOrder::RightToLeft, [](int y) { return y; }, ReversePixels);
 }
 
 void GreyScale(const PixelFrame& source, PixelFrame& destination, const PointArguments&) {
-    EachRow(source, destination, GreyRow);
+    EachRow(source, destination, GreyPixels);
 }
 
 void SwapChannels(const PixelFrame& source, PixelFrame& destination, const PointArguments& arguments) {
@@ -79,8 +79,9 @@ void SwapChannels(const PixelFrame& source, PixelFrame& destination, const Point
     const bool sound =
         std::all_of(swap.begin(), swap.end(), [](int c) { return c >= 0 && c < PixelArray::kChannels; });
     if (!sound) return kPlainPoints.SwapChannels(source, destination, arguments);
-    EachRow(source, destination,
-            [&](const Pixel* from, Pixel* to, std::size_t pixels) { SwapRow(from, to, pixels, swap); });
+    EachRow(source, destination, [&](const Pixel* from, Pixel* to, std::size_t pixels) {
+        ExchangeChannels(from, to, pixels, swap);
+    });
 }
 
 void ShiftColors(const PixelFrame& source, PixelFrame& destination, const PointArguments& arguments) {
@@ -89,16 +90,13 @@ void ShiftColors(const PixelFrame& source, PixelFrame& destination, const PointA
     if (std::max({blue, green, red}) > surelyWithin16Bits) {
         return kPlainPoints.ShiftColors(source, destination, arguments);
     }
-    const auto byte = [](int amount) { return static_cast<std::uint8_t>(std::clamp(amount, 0, 255)); };
-    const BlockPattern gain = BlockPattern::Of(byte(blue), byte(green), byte(red));
-    const BlockPattern loss = BlockPattern::Of(byte(-blue), byte(-green), byte(-red));
-    EachRow(source, destination, [&](const Pixel* from, Pixel* to, std::size_t pixels) {
-        ShiftRow(from, to, pixels, gain, loss);
-    });
+    const ChannelShift shift = ChannelShift::Of(blue, green, red);
+    EachRow(source, destination,
+            [&](const Pixel* from, Pixel* to, std::size_t pixels) { ShiftPixels(from, to, pixels, shift); });
 }
 
 void Copy(const PixelFrame& source, PixelFrame& destination, const PointArguments&) {
-    EachRow(source, destination, CopyRow);
+    EachRow(source, destination, CopyPixels);
 }
 
 } // namespace

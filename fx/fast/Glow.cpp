@@ -61,15 +61,15 @@ MIRELLE_INLINE void FillRun(std::uint8_t* values, std::uint8_t* failed, const st
     }
 }
 
-MIRELLE_VERSIONS void Glow(const Pixel* source, Pixel* destination, std::size_t pixels,
-                           const Division& division) {
-    KeptValues kept;
-    const Division values = division;
-    EachRun(
-        kept, pixels, destination,
-        [&](std::uint8_t* to, std::uint8_t* failed, const std::uint8_t* c)
-            MIRELLE_LAMBDA { FillRun(to, failed, c, values); },
-        source);
+void Glow(const Pixel* source, Pixel* destination, std::size_t pixels, Division division) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        KeptValues kept;
+        EachRun(
+            kept, pixels, destination,
+            [&](std::uint8_t* to, std::uint8_t* failed, const std::uint8_t* c)
+                MIRELLE_LAMBDA { FillRun(to, failed, c, division); },
+            source);
+    });
 }
 
 // The division that gives what |765 / c| x factor rounds to, cut at 255, for every c from 1 to 255. Returns
@@ -81,11 +81,11 @@ bool DivisionFor(float factor, Division& division) {
     division = {765.0F * factor, 1};
     if (!(division.dividend >= 1 && division.dividend <= 16384)) return false;
     for (int c = 255; c >= 1; --c) {
-        const double told = std::fabs(765.0 / c) * static_cast<double>(factor);
+        const double quotient = std::fabs(765.0 / c) * static_cast<double>(factor);
         const double exact = static_cast<double>(division.dividend) / c;
         const double toTie = std::fabs(exact - std::floor(exact) - 0.5);
-        const bool sure = toTie == 0 ? told == exact : toTie >= sureDistance;
-        const double v = RoundHalfEven(told);
+        const bool sure = toTie == 0 ? quotient == exact : toTie >= sureDistance;
+        const double v = RoundHalfEven(quotient);
         if (!sure || v != RoundHalfEven(exact)) return false;
         if (v >= 255) {
             division.darkest = static_cast<std::uint8_t>(c);

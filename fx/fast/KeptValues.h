@@ -79,23 +79,13 @@ private:
 template <class Fill, class... In>
 MIRELLE_INLINE void EachRun(KeptValues& kept, std::size_t pixels, Pixel* out, const Fill& fill,
                             const In*... in) {
-    constexpr std::size_t run = KeptValues::kRunPixels;
-    std::size_t done = 0;
-    for (; done + run <= pixels; done += run) {
-        fill(kept.Values(), kept.Failed(), BytesOf(in + done)...);
-        kept.Resolve(BytesOf(out + done), run);
-    }
-    if (const std::size_t rest = pixels - done; rest != 0) {
-        const auto copied = [&](const Pixel* from) {
-            std::array<Pixel, run> copy{};
-            std::memcpy(copy.data(), from, rest * sizeof(Pixel));
-            return copy;
-        };
-        std::array<Pixel, run> result;
-        fill(kept.Values(), kept.Failed(), BytesOf(copied(in + done).data())...);
-        kept.Resolve(BytesOf(result.data()), rest);
-        std::memcpy(out + done, result.data(), rest * sizeof(Pixel));
-    }
+    EachPart<KeptValues::kRunPixels>(
+        pixels, out,
+        [&](std::size_t count, std::uint8_t* to, const auto*... from) MIRELLE_LAMBDA {
+            fill(kept.Values(), kept.Failed(), from...);
+            kept.Resolve(to, count);
+        },
+        in...);
 }
 
 } // namespace mirelle::fast

@@ -60,23 +60,32 @@ MIRELLE_INLINE void SetWord(std::uint8_t* pixel, std::uint32_t word) {
     std::memcpy(pixel, &word, sizeof word);
 }
 
-// Runs block(out, in...) over so many pixels; each call has kBlockPixels of them.
-template <class Block, class... In>
-MIRELLE_INLINE void EachBlock(std::size_t pixels, Pixel* out, const Block& block, const In*... in) {
+// Runs work(count, out, in...) over so many pixels in parts of `part` pixels, of which the first `count` are
+// the picture's: fewer than all of them in the last part, which is done in a copy.
+template <std::size_t part, class Work, class... In>
+MIRELLE_INLINE void EachPart(std::size_t pixels, Pixel* out, const Work& work, const In*... in) {
     std::size_t done = 0;
-    for (; done + kBlockPixels <= pixels; done += kBlockPixels) {
-        block(BytesOf(out + done), BytesOf(in + done)...);
-    }
+    for (; done + part <= pixels; done += part)
+        work(part, BytesOf(out + done), BytesOf(in + done)...);
     if (const std::size_t rest = pixels - done; rest != 0) {
         const auto copied = [&](const Pixel* from) {
-            std::array<Pixel, kBlockPixels> copy{};
+            std::array<Pixel, part> copy{};
             std::memcpy(copy.data(), from, rest * sizeof(Pixel));
             return copy;
         };
-        std::array<Pixel, kBlockPixels> result;
-        block(BytesOf(result.data()), BytesOf(copied(in + done).data())...);
+        std::array<Pixel, part> result;
+        work(rest, BytesOf(result.data()), BytesOf(copied(in + done).data())...);
         std::memcpy(out + done, result.data(), rest * sizeof(Pixel));
     }
+}
+
+// Runs block(out, in...) over so many pixels; each call has kBlockPixels of them.
+template <class Block, class... In>
+MIRELLE_INLINE void EachBlock(std::size_t pixels, Pixel* out, const Block& block, const In*... in) {
+    EachPart<kBlockPixels>(
+        pixels, out,
+        [&](std::size_t, std::uint8_t* to, const auto*... from) MIRELLE_LAMBDA { block(to, from...); },
+        in...);
 }
 
 // out = byte(k, in...) for every byte; k is the place in the block, for patterns.

@@ -9,14 +9,16 @@ namespace mirelle::fast {
 namespace {
 
 // 2.5 x (a - b), ties to even, limited to a byte: from a difference of 102 on it is 255 or more.
-MIRELLE_VERSIONS void Contrasted(const Pixel* a, const Pixel* b, Pixel* destination, std::size_t pixels) {
-    EachByte(
-        pixels, destination,
-        [](std::size_t, std::uint8_t as, std::uint8_t bs) MIRELLE_LAMBDA {
-            const std::uint8_t difference = Least(DifferenceTo0(as, bs), 102);
-            return static_cast<std::uint8_t>(2 * difference + HalfToEven(difference));
-        },
-        a, b);
+void Contrasted(const Pixel* a, const Pixel* b, Pixel* destination, std::size_t pixels) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        EachByte(
+            pixels, destination,
+            [](std::size_t, std::uint8_t as, std::uint8_t bs) MIRELLE_LAMBDA {
+                const std::uint8_t difference = Least(DifferenceTo0(as, bs), 102);
+                return static_cast<std::uint8_t>(2 * difference + HalfToEven(difference));
+            },
+            a, b);
+    });
 }
 
 // 2.5 x value, ties to even.
@@ -68,19 +70,23 @@ MIRELLE_INLINE void WithNeighbours(const KernelFrame& frame, const Value& value)
 }
 
 // |c - n| / 2 + 100, ties to even; 100 is even itself.
-MIRELLE_VERSIONS void HalfDifferences(const KernelFrame& frame) {
-    WithNeighbours(frame, [](std::uint16_t c, std::uint16_t n) MIRELLE_LAMBDA {
-        const std::uint16_t difference = WideDistance(c, n);
-        const auto half = static_cast<std::uint16_t>(difference >> 1);
-        return static_cast<std::uint16_t>(100 + half + (half & difference & 1));
+void HalfDifferences(const KernelFrame& frame) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        WithNeighbours(frame, [](std::uint16_t c, std::uint16_t n) MIRELLE_LAMBDA {
+            const std::uint16_t difference = WideDistance(c, n);
+            const auto half = static_cast<std::uint16_t>(difference >> 1);
+            return static_cast<std::uint16_t>(100 + half + (half & difference & 1));
+        });
     });
 }
 
-MIRELLE_VERSIONS void Embossed(const KernelFrame& frame, std::int16_t offset) {
-    WithNeighbours(frame, [offset](std::uint16_t c, std::uint16_t n) MIRELLE_LAMBDA {
-        const std::uint16_t v = WideDistance(c, static_cast<std::uint16_t>(n + offset));
-        const std::uint16_t fits = v <= 255 ? 255 : 0; // what does not fit the byte is not stored
-        return static_cast<std::uint16_t>(v & fits);
+void Embossed(const KernelFrame& frame, std::int16_t offset) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        WithNeighbours(frame, [offset](std::uint16_t c, std::uint16_t n) MIRELLE_LAMBDA {
+            const std::uint16_t v = WideDistance(c, static_cast<std::uint16_t>(n + offset));
+            const std::uint16_t fits = v <= 255 ? 255 : 0; // what does not fit the byte is not stored
+            return static_cast<std::uint16_t>(v & fits);
+        });
     });
 }
 

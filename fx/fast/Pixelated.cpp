@@ -32,27 +32,31 @@ MIRELLE_INLINE Pixel MeanOf(Pixel a, Pixel b) {
     return std::bit_cast<Pixel>(mean);
 }
 
-MIRELLE_VERSIONS void EvenRow(const Pixel* row, Pixel* destination, std::size_t width) {
-    const std::size_t last = width - 1;
-    EachWord(
-        last, destination,
-        [](std::size_t k, std::uint32_t s, std::uint32_t right) MIRELLE_LAMBDA {
-            const std::uint32_t neighbour = (right & 0xFF00FF) | (right >> 8 & 0x00FF00);
-            return Chosen(k, MeanToEven(s, neighbour), s);
-        },
-        row, row + 1);
-    destination[last] = last % 2 == 0 ? Pixel{row[last].blue, row[last].green, row[last].red, 0}
-                                      : MeanOf(row[last], row[last - 1]);
+void EvenRow(const Pixel* row, Pixel* destination, std::size_t width) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        const std::size_t last = width - 1;
+        EachWord(
+            last, destination,
+            [](std::size_t k, std::uint32_t s, std::uint32_t right) MIRELLE_LAMBDA {
+                const std::uint32_t neighbour = (right & 0xFF00FF) | (right >> 8 & 0x00FF00);
+                return Chosen(k, MeanToEven(s, neighbour), s);
+            },
+            row, row + 1);
+        destination[last] = last % 2 == 0 ? Pixel{row[last].blue, row[last].green, row[last].red, 0}
+                                          : MeanOf(row[last], row[last - 1]);
+    });
 }
 
-MIRELLE_VERSIONS void OddRow(const Pixel* row, const Pixel* below, Pixel* destination, std::size_t width) {
-    const std::size_t last = width - 1;
-    EachWord(
-        last, destination,
-        [](std::size_t k, std::uint32_t s, std::uint32_t under, std::uint32_t lowerRight)
-            MIRELLE_LAMBDA { return MeanToEven(s, Chosen(k, lowerRight, under)); },
-        row, below, below + 1);
-    destination[last] = MeanOf(row[last], last % 2 == 0 ? below[last] : below[last - 1]);
+void OddRow(const Pixel* row, const Pixel* below, Pixel* destination, std::size_t width) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        const std::size_t last = width - 1;
+        EachWord(
+            last, destination,
+            [](std::size_t k, std::uint32_t s, std::uint32_t under, std::uint32_t lowerRight)
+                MIRELLE_LAMBDA { return MeanToEven(s, Chosen(k, lowerRight, under)); },
+            row, below, below + 1);
+        destination[last] = MeanOf(row[last], last % 2 == 0 ? below[last] : below[last - 1]);
+    });
 }
 
 } // namespace

@@ -42,13 +42,15 @@ MIRELLE_INLINE void FillRun(std::uint8_t* values, std::uint8_t* failed, const st
     }
 }
 
-MIRELLE_VERSIONS void Silk(const Pixel* source, Pixel* destination, std::size_t width, std::size_t pixels) {
-    KeptValues kept;
-    const auto fill = [](std::uint8_t* values, std::uint8_t* failed, const std::uint8_t* c,
-                         const std::uint8_t* p) MIRELLE_LAMBDA { FillRun(values, failed, c, p); };
-    // In row 0 the remembered pixel is the pixel itself, from there on the one before it.
-    EachRun(kept, width, destination, fill, source, source);
-    EachRun(kept, pixels - width, destination + width, fill, source + width, source + width - 1);
+void Silk(const Pixel* source, Pixel* destination, std::size_t width, std::size_t pixels) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        KeptValues kept;
+        const auto fill = [](std::uint8_t* values, std::uint8_t* failed, const std::uint8_t* c,
+                             const std::uint8_t* p) MIRELLE_LAMBDA { FillRun(values, failed, c, p); };
+        // In row 0 the remembered pixel is the pixel itself, from there on the one before it.
+        EachRun(kept, width, destination, fill, source, source);
+        EachRun(kept, pixels - width, destination + width, fill, source + width, source + width - 1);
+    });
 }
 
 } // namespace

@@ -42,7 +42,7 @@ TEST(BlendChainTest, OneBlendIsABlendForEveryPairAndAlpha) {
     for (int alpha = 0; alpha < 256; ++alpha) {
         const Bytes chain{static_cast<std::uint8_t>(alpha)};
         Bytes drawn = pairs.to;
-        BlendChain(Over(drawn, pairs.from), chain);
+        BlendChains(chain).Blend(Over(drawn, pairs.from));
         for (std::size_t i = 0; i < drawn.size(); ++i)
             ASSERT_EQ(drawn[i], Blended(pairs.from[i], pairs.to[i], chain[0])) << alpha << " " << i;
     }
@@ -53,7 +53,7 @@ TEST(BlendChainTest, LongerChainsAreTheirBlendsOneAfterTheOther) {
     for (const Bytes& chain : {Bytes{1, 1, 1, 2, 2}, Bytes{20, 20, 21, 21, 22}, Bytes{100, 101, 102},
                                Bytes{250, 3, 255, 90}, Bytes{0}, Bytes{}}) {
         Bytes drawn = pairs.to;
-        BlendChain(Over(drawn, pairs.from), chain);
+        BlendChains(chain).Blend(Over(drawn, pairs.from));
         for (std::size_t i = 0; i < drawn.size(); ++i)
             ASSERT_EQ(drawn[i], OneByOne(pairs.to[i], pairs.from[i], chain)) << i;
     }
@@ -64,33 +64,34 @@ TEST(BlendChainTest, MayGoToOtherMemoryAndLeavesWhatWasThere) {
     const Bytes chain{20, 20, 21, 21, 22};
     Bytes drawn(1000, 7);
     const Bytes was(pairs.to.begin() + 300, pairs.to.begin() + 1300);
-    BlendChain({drawn.data(), was.data(), pairs.from.data(), drawn.size() - 1}, chain);
+    BlendChains(chain).Blend({drawn.data(), was.data(), pairs.from.data(), drawn.size() - 1});
     for (std::size_t i = 0; i + 1 < drawn.size(); ++i)
         ASSERT_EQ(drawn[i], OneByOne(was[i], pairs.from[i], chain)) << i;
     EXPECT_EQ(drawn.back(), 7);
     EXPECT_TRUE(std::ranges::equal(was, std::span(pairs.to).subspan(300, 1000)));
 }
 
-TEST(BlendChainTest, ATableHasAChainForEachByteOfARunOfAnyLength) {
+TEST(BlendChainTest, HasAChainForEachPlaceOfARunOfAnyLength) {
     std::mt19937 random(5);
     const auto byte = [&] { return static_cast<std::uint8_t>(random()); };
-    for (const std::size_t bytes : {1U, 4U, 255U, 256U, 257U, 1000U}) {
-        constexpr std::size_t links = 4;
-        ChainTable table(bytes, links);
-        std::vector<Bytes> chains(bytes);
-        Bytes to, from;
-        for (std::size_t i = 0; i < bytes; ++i) {
-            to.push_back(byte());
-            from.push_back(byte());
-            for (std::size_t link = 0; link < i % (links + 1); ++link) {
-                chains[i].push_back(byte());
-                table.Set(link, i, chains[i].back());
+    for (const std::size_t bytesOfEach : {1U, 4U}) {
+        for (const std::size_t places : {1U, 4U, 255U, 256U, 257U, 1000U}) {
+            constexpr std::size_t kMostLinks = 4;
+            std::vector<Bytes> chains(places);
+            Bytes to, from;
+            for (std::size_t place = 0; place < places; ++place) {
+                for (std::size_t link = 0; link < place % (kMostLinks + 1); ++link)
+                    chains[place].push_back(byte());
+                for (std::size_t i = 0; i < bytesOfEach; ++i) {
+                    to.push_back(byte());
+                    from.push_back(byte());
+                }
             }
+            Bytes drawn = to;
+            BlendChains(chains, bytesOfEach).Blend(Over(drawn, from));
+            for (std::size_t i = 0; i < drawn.size(); ++i)
+                ASSERT_EQ(drawn[i], OneByOne(to[i], from[i], chains[i / bytesOfEach])) << places << " " << i;
         }
-        Bytes drawn = to;
-        table.Blend(Over(drawn, from));
-        for (std::size_t i = 0; i < bytes; ++i)
-            ASSERT_EQ(drawn[i], OneByOne(to[i], from[i], chains[i])) << bytes << " " << i;
     }
 }
 
@@ -122,10 +123,10 @@ TEST(LimitDistancesTest, BringsEachByteAsNearAsItsLimitTells) {
     const Pairs pairs;
     for (const int limit : {0, 1, 2, 100, 254, 255}) {
         Bytes one = pairs.to;
-        LimitDistances(Over(one, pairs.from), static_cast<std::uint8_t>(limit));
+        LimitDistances(Over(one, pairs.from), Bytes(1, static_cast<std::uint8_t>(limit)));
         Bytes each = pairs.to;
         const Bytes limits(each.size(), static_cast<std::uint8_t>(limit));
-        LimitDistances(Over(each, pairs.from), limits.data());
+        LimitDistances(Over(each, pairs.from), limits);
         for (std::size_t i = 0; i < one.size(); ++i) {
             const int expected = std::clamp<int>(pairs.to[i], pairs.from[i] - limit, pairs.from[i] + limit);
             ASSERT_EQ(one[i], expected) << limit << " " << i;

@@ -1,4 +1,6 @@
-#include "fx/fast/PointRows.h"
+#include "fx/fast/PixelRuns.h"
+
+#include <algorithm>
 
 namespace mirelle::fast {
 namespace {
@@ -54,58 +56,72 @@ MIRELLE_INLINE bool GreyInFloats(const Pixel* from, Pixel* to) {
 
 } // namespace
 
-MIRELLE_VERSIONS void CopyRow(const Pixel* from, Pixel* to, std::size_t pixels) {
-    EachWord(
-        pixels, to, [](std::size_t, std::uint32_t s) MIRELLE_LAMBDA { return s; }, from);
+void CopyPixels(const Pixel* from, Pixel* to, std::size_t pixels) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        EachWord(
+            pixels, to, [](std::size_t, std::uint32_t s) MIRELLE_LAMBDA { return s; }, from);
+    });
 }
 
-MIRELLE_VERSIONS void InvertRow(const Pixel* from, Pixel* to, std::size_t pixels) {
-    EachWord(
-        pixels, to, [](std::size_t, std::uint32_t s) MIRELLE_LAMBDA { return ~s; }, from);
+void InvertPixels(const Pixel* from, Pixel* to, std::size_t pixels) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        EachWord(
+            pixels, to, [](std::size_t, std::uint32_t s) MIRELLE_LAMBDA { return ~s; }, from);
+    });
 }
 
-MIRELLE_VERSIONS void ReverseRow(const Pixel* from, Pixel* to, std::size_t pixels) {
-    const std::uint8_t* in = BytesOf(from);
-    std::uint8_t* out = BytesOf(to);
-    MIRELLE_INDEPENDENT
-    for (std::size_t x = 0; x < pixels; ++x) {
-        SetWord(out + 4 * x, Word(in + 4 * (pixels - 1 - x)) & kColorBytes);
-    }
+void ReversePixels(const Pixel* from, Pixel* to, std::size_t pixels) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        const std::uint8_t* in = BytesOf(from);
+        std::uint8_t* out = BytesOf(to);
+        MIRELLE_INDEPENDENT
+        for (std::size_t x = 0; x < pixels; ++x) {
+            SetWord(out + 4 * x, Word(in + 4 * (pixels - 1 - x)) & kColorBytes);
+        }
+    });
 }
 
 // A tie is decided by the rounding errors of the sum in doubles, so that the few groups of pixels that hold
 // one are done over in that way.
-MIRELLE_VERSIONS void GreyRow(const Pixel* from, Pixel* to, std::size_t pixels) {
-    std::size_t done = 0;
-    for (; done + kGreyPixels <= pixels; done += kGreyPixels) {
-        const bool anyTie = GreyInFloats(from + done, to + done);
-        if (anyTie) GreyInDoubles(from + done, to + done, kGreyPixels);
-    }
-    GreyInDoubles(from + done, to + done, pixels - done);
+void GreyPixels(const Pixel* from, Pixel* to, std::size_t pixels) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        std::size_t done = 0;
+        for (; done + kGreyPixels <= pixels; done += kGreyPixels) {
+            const bool anyTie = GreyInFloats(from + done, to + done);
+            if (anyTie) GreyInDoubles(from + done, to + done, kGreyPixels);
+        }
+        GreyInDoubles(from + done, to + done, pixels - done);
+    });
 }
 
-MIRELLE_VERSIONS void SwapRow(const Pixel* from, Pixel* to, std::size_t pixels,
-                              const std::array<int, 3>& swap) {
-    const int blue = 8 * swap[0];
-    const int green = 8 * swap[1];
-    const int red = 8 * swap[2];
-    EachWord(
-        pixels, to,
-        [=](std::size_t, std::uint32_t s) MIRELLE_LAMBDA {
-            return (s >> blue & 0xFF) | (s >> green & 0xFF) << 8 | (s >> red & 0xFF) << 16;
-        },
-        from);
+void ExchangeChannels(const Pixel* from, Pixel* to, std::size_t pixels, const std::array<int, 3>& swap) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        const int blue = 8 * swap[0];
+        const int green = 8 * swap[1];
+        const int red = 8 * swap[2];
+        EachWord(
+            pixels, to,
+            [=](std::size_t, std::uint32_t s) MIRELLE_LAMBDA {
+                return (s >> blue & 0xFF) | (s >> green & 0xFF) << 8 | (s >> red & 0xFF) << 16;
+            },
+            from);
+    });
 }
 
-MIRELLE_VERSIONS void ShiftRow(const Pixel* from, Pixel* to, std::size_t pixels, const BlockPattern& gain,
-                               const BlockPattern& loss) {
-    const BlockPattern gains = gain;
-    const BlockPattern losses = loss;
-    EachByte(
-        pixels, to,
-        [&](std::size_t k, std::uint8_t c)
-            MIRELLE_LAMBDA { return DifferenceTo0(SumTo255(c, gains[k]), losses[k]); },
-        from);
+ChannelShift ChannelShift::Of(int blue, int green, int red) {
+    const auto byte = [](int amount) { return static_cast<std::uint8_t>(std::clamp(amount, 0, 255)); };
+    return {BlockPattern::Of(byte(blue), byte(green), byte(red)),
+            BlockPattern::Of(byte(-blue), byte(-green), byte(-red))};
+}
+
+void ShiftPixels(const Pixel* from, Pixel* to, std::size_t pixels, const ChannelShift& shift) {
+    InBestVersion([=]() MIRELLE_LAMBDA {
+        EachByte(
+            pixels, to,
+            [&](std::size_t k, std::uint8_t c)
+                MIRELLE_LAMBDA { return DifferenceTo0(SumTo255(c, shift.gain[k]), shift.loss[k]); },
+            from);
+    });
 }
 
 } // namespace mirelle::fast
