@@ -1,9 +1,9 @@
-// The program without a window: the form, and the handlers of every subject connected to it.
+// The program without a window: the form, and the handlers of every subject connected to it. The splash
+// (app/Splash.h) is there before it.
 #pragma once
 
 #include "app/FrmPicX.h"
 #include "app/Panels.h"
-#include "app/Splash.h"
 #include "app/UserManual.h"
 #include "bridge/Bridge.h"
 #include "canvas/Canvas.h"
@@ -19,7 +19,6 @@ public:
 
     FrmPicX form;
     UserManual manual;
-    Splash splash;
 
 private:
     Panels panels_;

@@ -26,30 +26,31 @@ std::string TextOf(const CalendarDate& date) {
 
 } // namespace
 
-Splash::Splash(Ports ports) : Form("frmSplasholaSUNDIAL", ports.screen, kSplashSize), ports_(ports) {
+Splash::Splash(Screen& screen, EventPump& pump, Process& process)
+    : Form("frmSplasholaSUNDIAL", screen, kSplashSize), screen_(screen), pump_(pump) {
     Label1.Caption = "Click splashscreen to view";
     Timer1.Interval = kTickMilliseconds;
     Timer1.Timer.Connect([this] { Tick(); });
     Click.Connect([this] { ToggleWait(); });
     Label1.Click.Connect([this] { ToggleWait(); });
     // Closed before the main window is there, nothing is left to run.
-    QueryUnload.Connect([this] { ports_.process.End(); });
+    QueryUnload.Connect([&process] { process.End(); });
 }
 
 void Splash::Load() {
     Caption = std::string("About ") + App::Title;
     lblVersion.Caption = "Version " + std::to_string(App::Major) + "." + std::to_string(App::Minor) + "." +
                          std::to_string(App::Revision);
-    const ScreenSize screen = ports_.screen.Size();
+    const ScreenSize screen = screen_.Size();
     Top = static_cast<float>(screen.height) * kTwipsPerPixel / 2 - Height / 2;
     Left = static_cast<float>(screen.width) * kTwipsPerPixel / 2 - Width / 2;
-    lblDate.Caption = TextOf(ports_.pump.Date());
+    lblDate.Caption = TextOf(pump_.Date());
     Visible = true;
 }
 
 void Splash::Tick() {
     ++ticks_;
-    ports_.pump.DoEvents(PumpSite::Handler);
+    pump_.DoEvents(PumpSite::Handler);
     if (ticks_ != kTicks) return;
     Timer1.Enabled = false;
     Visible = false;

@@ -4,13 +4,16 @@
 
 #include "forms/Controls.h"
 #include "forms/Form.h"
-#include "forms/Ports.h"
+#include "forms/ports/Process.h"
+#include "forms/ports/Screen.h"
+#include "forms/ports/Time.h"
 
 namespace mirelle {
 
 class Splash : public Form {
 public:
-    explicit Splash(Ports ports);
+    // It asks for no more than these: it is there before the rest of the program is made.
+    Splash(Screen& screen, EventPump& pump, Process& process);
 
     void Load();
     // The splash is over: it is unloaded and the main window is to be shown.
@@ -23,7 +26,8 @@ private:
     void Tick();
     void ToggleWait();
 
-    Ports ports_;
+    Screen& screen_;
+    EventPump& pump_;
     int ticks_ = 0;
 };
 

@@ -1,5 +1,6 @@
 // The program: the real desktop, the forms with their handlers, and the windows over them.
 #include "app/Sampler.h"
+#include "app/Splash.h"
 #include "desktop/look/Look.h"
 #include "desktop/system/HomeFolder.h"
 #include "desktop/system/RealDesktop.h"
@@ -9,6 +10,8 @@
 
 #include <QApplication>
 
+#include <memory>
+
 namespace {
 
 // Where no message bus runs, the toolkit would start one as a program of its own. Nothing here needs a bus.
@@ -16,6 +19,24 @@ void StartNoMessageBus() {
     constexpr const char* kAddress = "DBUS_SESSION_BUS_ADDRESS";
     if (!qEnvironmentVariableIsSet(kAddress)) qputenv(kAddress, "disabled:");
 }
+
+// What comes after the splash: the forms, and the windows over them.
+struct Workplace {
+    explicit Workplace(mirelle::RealDesktop& desktop) : sampler(desktop.ThePorts()) {
+        desktop.dialogs.SetParent(&window);
+        desktop.screen.SetWindow(&window);
+        QObject::connect(&desktop.pump, &mirelle::QtEventPump::Pausing, &window,
+                         &mirelle::MainWindow::ShowPause);
+    }
+    void Open() {
+        sampler.form.Load();
+        window.Start();
+    }
+
+    mirelle::Sampler sampler;
+    mirelle::MainWindow window{sampler.form};
+    mirelle::ManualWindow manual{sampler.manual, sampler.form, window};
+};
 
 } // namespace
 
@@ -33,20 +54,20 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
 
     mirelle::RealDesktop desktop(mirelle::HomeFolder(application.arguments()));
-    mirelle::Sampler sampler(desktop.ThePorts());
-    mirelle::SplashWindow splash(sampler.splash, desktop.dialogs);
-    sampler.splash.Load();
-    QCoreApplication::processEvents(); // the splash is seen while the main window is made
-    mirelle::look::ApplyIcon();
-
-    mirelle::MainWindow window(sampler.form);
-    mirelle::ManualWindow manual(sampler.manual, sampler.form, window);
-    desktop.dialogs.SetParent(&window);
-    desktop.screen.SetWindow(&window);
-    QObject::connect(&desktop.pump, &mirelle::QtEventPump::Pausing, &window, &mirelle::MainWindow::ShowPause);
-    sampler.splash.Finished.Connect([&] {
-        sampler.form.Load();
-        window.Start();
+    std::unique_ptr<Workplace> workplace;
+    const auto makeWorkplace = [&] {
+        if (workplace) return;
+        mirelle::look::ApplyIcon();
+        workplace = std::make_unique<Workplace>(desktop);
+    };
+    mirelle::Splash splash(desktop.screen, desktop.pump, desktop.OwnProcess());
+    splash.Load();
+    mirelle::SplashWindow splashWindow(splash, desktop.dialogs);
+    // The rest is made behind the splash, which may end unseen: on another workspace it is not painted.
+    QObject::connect(&splashWindow, &mirelle::SplashWindow::Seen, &splashWindow, makeWorkplace);
+    splash.Finished.Connect([&] {
+        makeWorkplace();
+        workplace->Open();
     });
     return QApplication::exec();
 }

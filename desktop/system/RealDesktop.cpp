@@ -51,14 +51,21 @@ std::unique_ptr<Keyboard> MakeKeyboard() {
 } // namespace
 
 RealDesktop::RealDesktop(const std::string& home)
-    : files_(home, DumpFile()), loader_(std::make_unique<ImageFileLoader>(files_)),
-      encoders_(std::make_unique<FileEncoders>(files_)), clipboard_(std::make_unique<QtClipboard>()),
-      process_(std::make_unique<QtProcess>()), viewer_(std::make_unique<QtViewer>()), console_(MakeConsole()),
-      keyboard_(MakeKeyboard()) {}
+    : files_(home, DumpFile()), process_(std::make_unique<QtProcess>()) {}
 
 RealDesktop::~RealDesktop() = default;
 
+void RealDesktop::MakeTheRest() {
+    loader_ = std::make_unique<ImageFileLoader>(files_);
+    encoders_ = std::make_unique<FileEncoders>(files_);
+    clipboard_ = std::make_unique<QtClipboard>();
+    viewer_ = std::make_unique<QtViewer>();
+    console_ = MakeConsole();
+    keyboard_ = MakeKeyboard();
+}
+
 Ports RealDesktop::ThePorts() {
+    if (!keyboard_) MakeTheRest();
     return {*clipboard_, dialogs,   files_,   *loader_, *encoders_, pump,
             *keyboard_,  *console_, *viewer_, screen,   *process_};
 }

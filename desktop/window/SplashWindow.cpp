@@ -33,7 +33,6 @@ SplashWindow::SplashWindow(Splash& splash, Dialogs& dialogs)
     setObjectName("frmSplasholaSUNDIAL");
     setAttribute(Qt::WA_QuitOnClose, false);
     setFixedSize(kSize);
-    BuildWords();
     tick_.setTimerType(Qt::PreciseTimer);
     connect(&tick_, &QTimer::timeout, this,
             [this] { RunGuarded(dialogs_, [this] { splash_.Timer1.Advance(splash_.Timer1.Interval); }); });
@@ -42,47 +41,62 @@ SplashWindow::SplashWindow(Splash& splash, Dialogs& dialogs)
 }
 
 void SplashWindow::BuildWords() {
-    auto* title = new QLabel(App::Title, this);
+    auto* words = new QWidget(this);
+    words->setGeometry(kWallWidth, 0, width() - kWallWidth, height());
+    auto* title = new QLabel(App::Title);
     QFont large = title->font();
     large.setPixelSize(look::kTypeSizeTitle);
     title->setFont(large);
-    auto* purpose = new QLabel(tr("Desktop picture sampler"), this);
-    QLabel* version = Words(splash_.lblVersion);
-    QLabel* date = Words(splash_.lblDate);
-    QLabel* hint = Words(splash_.Label1);
-    for (QLabel* words : {title, purpose, version, date}) // a click on them is a click on the form
-        words->setAttribute(Qt::WA_TransparentForMouseEvents);
-    for (QLabel* words : {version, date, hint})
-        look::SetTextRank(*words, look::TextRank::Note);
+    auto* purpose = new QLabel(tr("Desktop picture sampler"));
+    QLabel* version = Line(splash_.lblVersion);
+    QLabel* date = Line(splash_.lblDate);
+    QLabel* hint = Line(splash_.Label1);
+    for (QLabel* line : {title, purpose, version, date}) // a click on them is a click on the form
+        line->setAttribute(Qt::WA_TransparentForMouseEvents);
+    for (QLabel* line : {version, date, hint})
+        look::SetTextRank(*line, look::TextRank::Note);
     // The label has a click of its own; the form is not to see it again.
     hint->setAttribute(Qt::WA_NoMousePropagation);
     hint->setCursor(Qt::PointingHandCursor);
     new ControlEvents(splash_.Label1, *hint, dialogs_, ControlEvents::Take::FullClick);
 
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kWallWidth + kMargin, kMargin, kMargin, kMargin);
+    auto* column = new QVBoxLayout(words);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     column->setSpacing(look::kSpaceSmall);
-    for (QLabel* words : {title, purpose})
-        column->addWidget(words);
+    for (QLabel* line : {title, purpose})
+        column->addWidget(line);
     column->addStretch(1);
-    for (QLabel* words : {version, date})
-        column->addWidget(words);
+    for (QLabel* line : {version, date})
+        column->addWidget(line);
     column->addSpacing(look::kSpace);
     column->addWidget(hint);
+    words->show();
 }
 
-QLabel* SplashWindow::Words(Label& control) {
-    auto* words = new QLabel(this);
-    words->setObjectName(QString::fromStdString(control.FullName()));
-    ShowWhenChanged(control, words,
-                    [&control, words] { words->setText(QString::fromStdString(control.Caption)); });
-    return words;
+QLabel* SplashWindow::Line(Label& control) {
+    auto* line = new QLabel;
+    line->setObjectName(QString::fromStdString(control.FullName()));
+    ShowWhenChanged(control, line,
+                    [&control, line] { line->setText(QString::fromStdString(control.Caption)); });
+    return line;
 }
 
 void SplashWindow::FollowForm() {
     setWindowTitle(QString::fromStdString(splash_.Caption));
     if (splash_.Visible) ToTheMiddle();
-    setVisible(splash_.Visible);
+    if (splash_.Visible && !std::exchange(worded_, true))
+        ShowAndBuildWords();
+    else
+        setVisible(splash_.Visible);
+}
+
+// The words are laid out while the window manager finds the window its place, for which it would wait
+// otherwise. Where windows are painted the moment they are shown, this one is not.
+void SplashWindow::ShowAndBuildWords() {
+    setUpdatesEnabled(false);
+    show();
+    BuildWords();
+    setUpdatesEnabled(true);
 }
 
 void SplashWindow::FollowTimer() {
@@ -109,6 +123,8 @@ void SplashWindow::paintEvent(QPaintEvent*) {
                    {wall.width() * kCrop.x() / 100, wall.height() * kCrop.y() / 100,
                     wall.width() * kCrop.width() / 100, wall.height() * kCrop.height() / 100});
     look::Surface(painter).Edge(rect(), 0, QColor(look::kCardEdge));
+    if (!std::exchange(painted_, true))
+        QMetaObject::invokeMethod(this, &SplashWindow::Seen, Qt::QueuedConnection);
 }
 
 void SplashWindow::mousePressEvent(QMouseEvent* event) {

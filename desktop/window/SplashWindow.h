@@ -11,12 +11,18 @@ class QLabel;
 
 namespace mirelle {
 
+class Dialogs;
+
 class SplashWindow : public QWidget {
     Q_OBJECT
 
 public:
     // Shown and hidden as the splash says.
     SplashWindow(Splash& splash, Dialogs& dialogs);
+
+signals:
+    // It has been painted for the first time.
+    void Seen();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -27,8 +33,9 @@ protected:
 
 private:
     void BuildWords();
-    QLabel* Words(Label& control);
+    QLabel* Line(Label& control);
     void FollowForm();
+    void ShowAndBuildWords();
     void FollowTimer();
     void ToTheMiddle();
 
@@ -36,6 +43,8 @@ private:
     Dialogs& dialogs_;
     QTimer tick_;
     bool pressed_ = false;
+    bool worded_ = false;
+    bool painted_ = false;
 };
 
 } // namespace mirelle

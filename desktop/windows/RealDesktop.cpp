@@ -17,15 +17,21 @@ constexpr const char* kDumpFile = "c:\\komp.txt";
 } // namespace
 
 RealDesktop::RealDesktop(const std::string& home)
-    : files_(home, kDumpFile), loader_(std::make_unique<WindowsPictures>(files_)),
-      encoders_(std::make_unique<GdiPlusEncoders>()), clipboard_(std::make_unique<WindowsClipboard>()),
-      process_(std::make_unique<WindowsProcess>(static_cast<const WindowsClipboard&>(*clipboard_))),
-      viewer_(std::make_unique<WindowsViewer>()), console_(std::make_unique<WindowsConsole>()),
-      keyboard_(std::make_unique<WindowsKeyboard>()) {}
+    : files_(home, kDumpFile), clipboard_(std::make_unique<WindowsClipboard>()),
+      process_(std::make_unique<WindowsProcess>(static_cast<const WindowsClipboard&>(*clipboard_))) {}
 
 RealDesktop::~RealDesktop() = default;
 
+void RealDesktop::MakeTheRest() {
+    loader_ = std::make_unique<WindowsPictures>(files_);
+    encoders_ = std::make_unique<GdiPlusEncoders>();
+    viewer_ = std::make_unique<WindowsViewer>();
+    console_ = std::make_unique<WindowsConsole>();
+    keyboard_ = std::make_unique<WindowsKeyboard>();
+}
+
 Ports RealDesktop::ThePorts() {
+    if (!keyboard_) MakeTheRest();
     return {*clipboard_, dialogs,   files_,   *loader_, *encoders_, pump,
             *keyboard_,  *console_, *viewer_, screen,   *process_};
 }

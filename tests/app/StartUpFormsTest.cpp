@@ -1,3 +1,4 @@
+#include "app/Splash.h"
 #include "tests/support/TestProgram.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +9,7 @@ namespace {
 class StartUpFormsTest : public ::testing::Test {
 protected:
     TestProgram program;
-    Splash& splash = program.sampler.splash;
+    Splash splash{program.desktop.screen, program.desktop.time, program.desktop.process};
     UserManual& manual = program.sampler.manual;
     FrmPicX& form = program.form;
 };

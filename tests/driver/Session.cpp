@@ -17,9 +17,9 @@ void Session::Start() {
 
 void Session::ShowSplash() {
     MakeProgram();
-    sampler_->splash.Finished.Connect([this] { ShowMainForm(); });
-    splashShown_ = true;
-    sampler_->splash.Load();
+    splash_.emplace(desktop.screen, desktop.time, desktop.process);
+    splash_->Finished.Connect([this] { ShowMainForm(); });
+    splash_->Load();
 }
 
 void Session::MakeProgram() {
@@ -59,7 +59,7 @@ Control& Session::ControlOf(const Reference& reference) {
 std::vector<Form*> Session::Forms() {
     std::vector<Form*> forms;
     if (mainFormShown_) forms = {&sampler_->form, &sampler_->manual};
-    if (splashShown_) forms.push_back(&sampler_->splash);
+    if (splash_) forms.push_back(&*splash_);
     return forms;
 }
 

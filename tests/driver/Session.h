@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/Sampler.h"
+#include "app/Splash.h"
 #include "tests/driver/NamedFiles.h"
 #include "tests/driver/References.h"
 #include "tests/support/ScriptedDesktop.h"
@@ -49,8 +50,8 @@ private:
     void ShowMainForm();
 
     Host host_;
+    std::optional<Splash> splash_; // where the start shows it
     std::optional<Sampler> sampler_;
-    bool splashShown_ = false;
     bool mainFormShown_ = false;
 };
 

@@ -123,10 +123,10 @@ void MaximisedSuperBatch(Stage& stage) {
 }
 
 void Splash(Stage& stage) {
-    stage.TheSplash();
-    stage.Program().splash.Timer1.Enabled = false;
-    stage.Program().splash.Load();
-    stage.Program().splash.lblDate.Caption = "21 November 2026";
+    stage.TheSplashWindow();
+    stage.TheSplash().Timer1.Enabled = false;
+    stage.TheSplash().Load();
+    stage.TheSplash().lblDate.Caption = "21 November 2026";
 }
 
 void Manual(Stage& stage) {
@@ -153,7 +153,7 @@ constexpr std::array kScenes = {
     Scene{"maximised-palette", MaximisedPalette},
     Scene{"maximised-image-fx", MaximisedEffects},
     Scene{"maximised-superbatch", MaximisedSuperBatch},
-    Scene{"splash", Splash, [](Stage& stage) -> QWidget* { return &stage.TheSplash(); }},
+    Scene{"splash", Splash, [](Stage& stage) -> QWidget* { return &stage.TheSplashWindow(); }},
     Scene{"manual", Manual, [](Stage& stage) -> QWidget* { return &stage.TheManual(); }},
 };
 

@@ -53,13 +53,13 @@ void Stage::MirrorLibrary() {
     }
 }
 
-SplashWindow& Stage::TheSplash() {
-    if (!splash_) {
+SplashWindow& Stage::TheSplashWindow() {
+    if (!splashWindow_) {
         const QSize screen = window_->screen()->geometry().size() * window_->screen()->devicePixelRatio();
         desktop_.screen.size = {screen.width(), screen.height()};
-        splash_ = std::make_unique<SplashWindow>(sampler_.splash, desktop_.dialogs);
+        splashWindow_ = std::make_unique<SplashWindow>(splash_, desktop_.dialogs);
     }
-    return *splash_;
+    return *splashWindow_;
 }
 
 ManualWindow& Stage::TheManual() {

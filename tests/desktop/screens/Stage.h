@@ -21,13 +21,13 @@ public:
     ~Stage();
 
     FrmPicX& Form() { return sampler_.form; }
-    Sampler& Program() { return sampler_; }
     ScriptedDesktop& Desktop() { return desktop_; }
     MainWindow& Window() { return *window_; }
     QWidget* Find(const char* name) { return window_->findChild<QWidget*>(name); }
 
     // The windows of the program's start; made when they are first asked for.
-    SplashWindow& TheSplash();
+    SplashWindow& TheSplashWindow();
+    Splash& TheSplash() { return splash_; }
     ManualWindow& TheManual();
 
     // Puts a grab of another program on the clipboard: larger than any of the windows.
@@ -46,7 +46,8 @@ private:
     ScriptedDesktop desktop_;
     Sampler sampler_{desktop_.PortsOver(files_, loader_, encoders_)};
     std::unique_ptr<MainWindow> window_;
-    std::unique_ptr<SplashWindow> splash_;
+    Splash splash_{desktop_.screen, desktop_.time, desktop_.process};
+    std::unique_ptr<SplashWindow> splashWindow_;
     std::unique_ptr<ManualWindow> manual_;
 };
 

@@ -10,8 +10,26 @@
 #include <QPushButton>
 #include <QScreen>
 
+#include <set>
+
 namespace mirelle::test {
 namespace {
+
+// What has been painted since.
+class PaintedWidgets : public QObject {
+public:
+    PaintedWidgets() { qApp->installEventFilter(this); }
+    bool Have(const QWidget* widget) const { return painted_.contains(widget); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint) painted_.insert(watched);
+        return false;
+    }
+
+private:
+    std::set<const QObject*> painted_;
+};
 
 struct SplashWindowTest : testing::Test {
     SplashWindowTest() {
@@ -28,7 +46,7 @@ struct SplashWindowTest : testing::Test {
     }
 
     TestProgram program;
-    Splash& splash = program.sampler.splash;
+    Splash splash{program.desktop.screen, program.desktop.time, program.desktop.process};
     SplashWindow window{splash, program.desktop.dialogs};
     int finished = 0;
 };
@@ -41,6 +59,28 @@ TEST_F(SplashWindowTest, StandsInTheMiddleOfTheScreenWithItsWords) {
     EXPECT_EQ(Words("Label1")->text(), "Click splashscreen to view");
     const QPoint off = window.geometry().center() - window.screen()->geometry().center();
     EXPECT_LE(off.manhattanLength(), 4);
+}
+
+// Its words are made when it is there already, but nobody sees it without them.
+TEST_F(SplashWindowTest, TellsThatItIsSeenOnceItIsPaintedWithAllItsWords) {
+    Splash another{program.desktop.screen, program.desktop.time, program.desktop.process};
+    SplashWindow fresh{another, program.desktop.dialogs};
+    const PaintedWidgets painted;
+    int seen = 0;
+    QObject::connect(&fresh, &SplashWindow::Seen, [&] {
+        ++seen;
+        const QList<QLabel*> words = fresh.findChildren<QLabel*>();
+        EXPECT_EQ(words.size(), 5);
+        for (const QLabel* line : words)
+            EXPECT_TRUE(painted.Have(line)) << line->text().toStdString();
+    });
+    OpenedWindow::Settle();
+    EXPECT_EQ(seen, 0);
+    another.Load();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return seen > 0; }, 60000));
+    fresh.repaint();
+    OpenedWindow::Settle();
+    EXPECT_EQ(seen, 1);
 }
 
 TEST_F(SplashWindowTest, ItsTimerEndsItAfterElevenTicks) {
