@@ -1,6 +1,7 @@
 // The program: the real desktop, the forms with their handlers, and the windows over them.
 #include "app/Sampler.h"
 #include "app/Splash.h"
+#include "desktop/look/FontsAhead.h"
 #include "desktop/look/Look.h"
 #include "desktop/system/HomeFolder.h"
 #include "desktop/system/RealDesktop.h"
@@ -42,9 +43,11 @@ struct Workplace {
 
 int main(int argc, char** argv) {
     StartNoMessageBus();
+    const std::future<void> fonts = mirelle::look::ReadFontsAhead();
     // Scale factors such as 1.25 count as they are: one canvas pixel is one device pixel.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
+    fonts.wait();
     mirelle::look::ApplyLook(application);
     QApplication::setApplicationName(mirelle::App::Title);
     QApplication::setApplicationVersion(

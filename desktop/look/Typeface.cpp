@@ -12,6 +12,8 @@ namespace mirelle::look {
 
 QFont BodyFont() {
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    font.setPixelSize(
+        kTypeSize); // at once: the font that is asked below is then loaded in the size that is used
     // The list of families is of no use here: it names generic ones, such as "Sans Serif", without any font
     // file.
     if (!QFontMetrics(font).inFont(u'A')) {
@@ -23,7 +25,6 @@ QFont BodyFont() {
     // Some systems name a family that only stands for another one, and Qt would take any in its place.
     font.setFamilies(QStringList{font.family(), "Segoe UI", "Tahoma", "DejaVu Sans", "Arial"});
 #endif
-    font.setPixelSize(kTypeSize);
     return font;
 }
 
