@@ -189,10 +189,10 @@ TEST(Keystrokes, OtherControlCharactersAreNotWellFormed) {
 
 TEST(Keystrokes, UnbalancedOrUnknownTextRaisesError5) {
     for (const char* text :
-         {"(",         ")",         "(a",         "a)",      "((a)",      "(a))",     "{",
-          "}",         "{}",        "{a",         "a}",      "{ENTER",    "{{",       "{}a}",
-          "{ab}",      "{ENTERS}",  "{F17}",      "{F0}",    "{LEFT }",   "{LEFT x}", "{LEFT 1x}",
-          "{LEFT 1 }", "{LEFT -1}", "{LEFT 1 2}", "{LEFT 3", "{LEFT\t3}", "{ 3}",     "{é3}"})
+         {"(",       ")",        "(a",        "a)",       "((a)",      "(a))",      "{",         "}",
+          "{}",      "{a",       "a}",        "{ENTER",   "{{",        "{}a}",      "{ab}",      "{ENTERS}",
+          "{F17}",   "{F0}",     "{LEFT }",   "{LEFT x}", "{LEFT 1x}", "{LEFT 1 }", "{LEFT -1}", "{LEFT 1 2}",
+          "{LEFT 3", "{LEFT 1x", "{LEFT\t3}", "{ 3}",     "{é3}"})
         EXPECT_EQ(ErrorOf(text), 5) << text;
 }
 
