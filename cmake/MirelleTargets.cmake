@@ -56,10 +56,6 @@ function(mirelle_vector_code target)
         -ffp-contract=off
         # GCC makes vector code in full at this level only.
         $<$<NOT:$<CONFIG:Debug>>:-O3>)
-    if(MIRELLE_SANITIZE)
-        # Clang warns of loops that the checks between their steps keep it from making vector code of.
-        target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:Clang>:-Wno-pass-failed>)
-    endif()
     if(MINGW AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         # GCC moves wide registers to the stack as if it were aligned to them, which it is not there; the assembler then
         # takes moves that need no alignment.

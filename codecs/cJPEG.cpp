@@ -3,21 +3,26 @@
 #include "codecs/jpeg/AnsiText.h"
 #include "codecs/jpeg/DataPlanes.h"
 #include "codecs/jpeg/Errors.h"
+#include "codecs/jpeg/Geometry.h"
 #include "codecs/jpeg/Markers.h"
 #include "codecs/jpeg/OptimizeTables.h"
+#include "codecs/jpeg/OutBuffer.h"
 #include "codecs/jpeg/Quantiser.h"
 #include "codecs/jpeg/Scans.h"
 #include "codecs/jpeg/SurfacePlanes.h"
 #include "codecs/jpeg/Tables.h"
 #include "codecs/jpeg/Transform.h"
 #include "forms/Numbers.h"
-#include "forms/OutOfMemory.h"
+#include "forms/RunTimeError.h"
 
 #include <limits>
 #include <optional>
+#include <vector>
 
 namespace mirelle {
 namespace {
+
+using QuantTables = std::array<jpeg::QuantTable, 2>;
 
 constexpr std::size_t kLongestComment = 65535;
 constexpr std::int32_t kSamplePrecision = 8;
@@ -42,6 +47,96 @@ std::optional<jpeg::SurfacePlanes> MakePlanes(const Bitmap& surface, const Pixel
     } catch (const RunTimeError&) {
         return std::nullopt;
     }
+}
+
+// Forgets the planes of a picture before and begins one of this size.
+void BeginPicture(jpeg::Frame& frame, int width, int height) {
+    frame.P = kSamplePrecision;
+    frame.X = width;
+    frame.Y = height;
+    for (jpeg::Component& component : frame.Components) {
+        component.DcValues = {};
+        component.BlockSymbols = {};
+        component.AcStore = {};
+    }
+}
+
+std::vector<jpeg::PlaneSize> PlaneSizes(const jpeg::Frame& frame, int w8, int h8) {
+    std::vector<jpeg::PlaneSize> sizes;
+    for (const jpeg::Component& component : frame.Components) {
+        sizes.push_back(jpeg::PlaneSizeOf(component, frame, w8, h8));
+    }
+    return sizes;
+}
+
+template <class Planes>
+void TransformPlanes(jpeg::Frame& frame, const QuantTables& tables, Planes& planes,
+                     const std::vector<jpeg::PlaneSize>& sizes) {
+    for (std::size_t i = 0; i < sizes.size(); ++i) {
+        jpeg::Component& component = frame.Components[i];
+        const jpeg::QuantTable& table = tables[static_cast<std::size_t>(component.Tqi)];
+        jpeg::TransformComponent(component, i, table, sizes[i], planes.Next());
+    }
+}
+
+void SampleArray(jpeg::Frame& frame, const QuantTables& tables, const jpeg::PixelData& data,
+                 const PixelArea& picture) {
+    BeginPicture(frame, picture.width, picture.height);
+    const int w8 = jpeg::RoundedUpTo8(picture.width);
+    const int h8 = jpeg::RoundedUpTo8(picture.height);
+    // The step between samples would be the quotient of two zeros.
+    if (w8 < 1 || h8 < 1) throw RunTimeError(ErrorNumber::Overflow);
+    const std::vector<jpeg::PlaneSize> sizes = PlaneSizes(frame, w8, h8);
+    jpeg::DataPlanes planes(data, picture, w8, h8, sizes);
+    TransformPlanes(frame, tables, planes, sizes);
+}
+
+int SampleSurface(jpeg::Frame& frame, const QuantTables& tables, const Bitmap& surface,
+                  const PixelArea& picture) {
+    BeginPicture(frame, picture.width, picture.height);
+    const int w8 = jpeg::RoundedUpTo8(picture.width);
+    const int h8 = jpeg::RoundedUpTo8(picture.height);
+    if (surface.IsEmpty() || !CanBeMade(w8, h8)) return cJPEG::kNoSurface;
+    const std::vector<jpeg::PlaneSize> sizes = PlaneSizes(frame, w8, h8);
+    std::optional<jpeg::SurfacePlanes> planes = MakePlanes(surface, picture, w8, h8, sizes);
+    if (!planes) return cJPEG::kNoSurface;
+    TransformPlanes(frame, tables, *planes, sizes);
+    return cJPEG::kDone;
+}
+
+void WriteSegments(jpeg::OutBuffer& out, const jpeg::Frame& frame, const QuantTables& tables,
+                   const std::string& comment, const std::vector<jpeg::ScanGroup>& groups,
+                   const jpeg::HuffmanTables& huffman) {
+    using jpeg::Marker;
+    using jpeg::TableClass;
+    const std::int32_t tableCount = frame.Nf() > 1 ? 2 : 1;
+    jpeg::WriteMarker(out, Marker::SOI);
+    jpeg::WriteAPP0(out);
+    jpeg::WriteCOM(out, comment);
+    for (std::int32_t t = 0; t < tableCount; ++t) {
+        jpeg::WriteDQT(out, tables[static_cast<std::size_t>(t)], t, frame.P);
+    }
+    jpeg::WriteSOF(out, frame);
+    for (std::int32_t t = 0; t < tableCount; ++t) {
+        jpeg::WriteDHT(out, huffman.DcTables[static_cast<std::size_t>(t)], TableClass::Dc, t);
+        jpeg::WriteDHT(out, huffman.AcTables[static_cast<std::size_t>(t)], TableClass::Ac, t);
+    }
+    jpeg::WriteScans(out, frame, groups, huffman);
+    jpeg::WriteMarker(out, Marker::EOI);
+}
+
+jpeg::OutBuffer MakeFile(const jpeg::Frame& frame, const QuantTables& tables, const std::string& comment) {
+    const std::vector<jpeg::ScanGroup> groups = jpeg::GroupComponents(frame);
+    jpeg::HuffmanTables huffman;
+    const Long estimate = jpeg::OptimizeTables(frame, groups, huffman);
+    // The last index of the buffer, so that it holds one byte more.
+    const Long last = estimate * Long(2) + Long(kRoomForSegments) + Long(static_cast<int>(comment.size()));
+    std::size_t blocks = 0;
+    for (const jpeg::Component& component : frame.Components)
+        blocks += component.Blocks();
+    jpeg::OutBuffer out(static_cast<std::size_t>(last.Value()) + 1 + kRoomForBlock * blocks);
+    WriteSegments(out, frame, tables, comment, groups, huffman);
+    return out;
 }
 
 } // namespace
@@ -71,108 +166,23 @@ void cJPEG::Comment(const std::string& value) {
     commentBytes_ = std::move(bytes);
 }
 
-void cJPEG::BeginPicture(int width, int height) {
-    frame_.P = kSamplePrecision;
-    frame_.X = width;
-    frame_.Y = height;
-    for (jpeg::Component& component : frame_.Components) {
-        component.DcValues = {};
-        component.AcSymbols = {};
-        component.AcStore = {};
-    }
-}
-
-std::vector<jpeg::PlaneSize> cJPEG::PlaneSizes(int w8, int h8) const {
-    std::vector<jpeg::PlaneSize> sizes;
-    for (const jpeg::Component& component : frame_.Components) {
-        sizes.push_back(jpeg::PlaneSizeOf(component, frame_, w8, h8));
-    }
-    return sizes;
-}
-
-template <class Planes>
-void cJPEG::TransformPlanes(Planes& planes, const std::vector<jpeg::PlaneSize>& sizes) {
-    for (std::size_t i = 0; i < sizes.size(); ++i) {
-        jpeg::Component& component = frame_.Components[i];
-        const jpeg::QuantTable& table = QuantTables_[static_cast<std::size_t>(component.Tqi)];
-        jpeg::TransformComponent(component, i, table, sizes[i], planes.Next());
-    }
-}
-
 int cJPEG::SampleDATA(std::span<const std::uint8_t> data, int columns, int rows, int width, int height, int x,
                       int y) {
-    return WithinMemory([&] { return SampleArray({data, columns, rows}, {x, y, width, height}); });
-}
-
-int cJPEG::SampleArray(const jpeg::PixelData& data, const PixelArea& picture) {
-    BeginPicture(picture.width, picture.height);
-    const int w8 = jpeg::RoundedUpTo8(picture.width);
-    const int h8 = jpeg::RoundedUpTo8(picture.height);
-    // The step between samples would be the quotient of two zeros.
-    if (w8 < 1 || h8 < 1) throw RunTimeError(ErrorNumber::Overflow);
-    const std::vector<jpeg::PlaneSize> sizes = PlaneSizes(w8, h8);
-    jpeg::DataPlanes planes(data, picture, w8, h8, sizes);
-    TransformPlanes(planes, sizes);
+    WithinMemory([&] { SampleArray(frame_, QuantTables_, {data, columns, rows}, {x, y, width, height}); });
     return kDone;
 }
 
 int cJPEG::SampleHDC(const Bitmap& surface, int width, int height, int x, int y) {
-    return WithinMemory([&] { return SampleSurface(surface, {x, y, width, height}); });
-}
-
-int cJPEG::SampleSurface(const Bitmap& surface, const PixelArea& picture) {
-    BeginPicture(picture.width, picture.height);
-    const int w8 = jpeg::RoundedUpTo8(picture.width);
-    const int h8 = jpeg::RoundedUpTo8(picture.height);
-    if (surface.IsEmpty() || !CanBeMade(w8, h8)) return kNoSurface;
-    const std::vector<jpeg::PlaneSize> sizes = PlaneSizes(w8, h8);
-    std::optional<jpeg::SurfacePlanes> planes = MakePlanes(surface, picture, w8, h8, sizes);
-    if (!planes) return kNoSurface;
-    TransformPlanes(*planes, sizes);
-    return kDone;
+    return WithinMemory([&] { return SampleSurface(frame_, QuantTables_, surface, {x, y, width, height}); });
 }
 
 int cJPEG::SaveFileJPG(const std::string& fileName, FileSystem& files) {
     if (fileName.empty()) return kNoFileName;
     if (files.FileExists(fileName)) return kFileExists;
-    const auto file = [&] { return MakeFile(); };
-    files.WriteFile(fileName, WithinMemory(file).Written());
+    const jpeg::OutBuffer file =
+        WithinMemory([this] { return MakeFile(frame_, QuantTables_, commentBytes_); });
+    files.WriteFile(fileName, file.Written());
     return kDone;
-}
-
-jpeg::OutBuffer cJPEG::MakeFile() const {
-    const std::vector<jpeg::ScanGroup> groups = jpeg::GroupComponents(frame_);
-    jpeg::HuffmanTables tables;
-    const Long estimate = jpeg::OptimizeTables(frame_, groups, tables);
-    // The last index of the buffer, so that it holds one byte more.
-    const Long last =
-        estimate * Long(2) + Long(kRoomForSegments) + Long(static_cast<int>(commentBytes_.size()));
-    std::size_t blocks = 0;
-    for (const jpeg::Component& component : frame_.Components)
-        blocks += component.Blocks();
-    jpeg::OutBuffer out(static_cast<std::size_t>(last.Value()) + 1 + kRoomForBlock * blocks);
-    WriteSegments(out, groups, tables);
-    return out;
-}
-
-void cJPEG::WriteSegments(jpeg::OutBuffer& out, const std::vector<jpeg::ScanGroup>& groups,
-                          const jpeg::HuffmanTables& tables) const {
-    using jpeg::Marker;
-    using jpeg::TableClass;
-    const std::int32_t tableCount = frame_.Nf() > 1 ? 2 : 1;
-    jpeg::WriteMarker(out, Marker::SOI);
-    jpeg::WriteAPP0(out);
-    jpeg::WriteCOM(out, commentBytes_);
-    for (std::int32_t t = 0; t < tableCount; ++t) {
-        jpeg::WriteDQT(out, QuantTables_[static_cast<std::size_t>(t)], t, frame_.P);
-    }
-    jpeg::WriteSOF(out, frame_);
-    for (std::int32_t t = 0; t < tableCount; ++t) {
-        jpeg::WriteDHT(out, tables.DcTables[static_cast<std::size_t>(t)], TableClass::Dc, t);
-        jpeg::WriteDHT(out, tables.AcTables[static_cast<std::size_t>(t)], TableClass::Ac, t);
-    }
-    jpeg::WriteScans(out, frame_, groups, tables);
-    jpeg::WriteMarker(out, Marker::EOI);
 }
 
 } // namespace mirelle

@@ -11,11 +11,7 @@
 // when the memory for it can't be had.
 #pragma once
 
-#include "codecs/jpeg/DataPlanes.h"
 #include "codecs/jpeg/Frame.h"
-#include "codecs/jpeg/Geometry.h"
-#include "codecs/jpeg/OptimizeTables.h"
-#include "codecs/jpeg/OutBuffer.h"
 #include "forms/Picture.h"
 #include "forms/ports/FileSystem.h"
 
@@ -23,7 +19,6 @@
 #include <cstdint>
 #include <span>
 #include <string>
-#include <vector>
 
 namespace mirelle {
 
@@ -69,17 +64,6 @@ public:
     int SaveFileJPG(const std::string& fileName, FileSystem& files);
 
 private:
-    int SampleArray(const jpeg::PixelData& data, const PixelArea& picture);
-    int SampleSurface(const Bitmap& surface, const PixelArea& picture);
-    // Forgets the planes of a picture before and begins one of this size.
-    void BeginPicture(int width, int height);
-    std::vector<jpeg::PlaneSize> PlaneSizes(int w8, int h8) const;
-    template <class Planes>
-    void TransformPlanes(Planes& planes, const std::vector<jpeg::PlaneSize>& sizes);
-    jpeg::OutBuffer MakeFile() const;
-    void WriteSegments(jpeg::OutBuffer& out, const std::vector<jpeg::ScanGroup>& groups,
-                       const jpeg::HuffmanTables& tables) const;
-
     jpeg::Frame frame_;
     std::array<jpeg::QuantTable, 2> QuantTables_;
     int QualityValue_ = 0;

@@ -8,7 +8,6 @@
 #include "codecs/tiff/PadAndFlipRows.h"
 #include "codecs/tiff/SwapBytes.h"
 #include "forms/Numbers.h"
-#include "forms/OutOfMemory.h"
 #include "forms/RunTimeError.h"
 
 #include <algorithm>

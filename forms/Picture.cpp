@@ -1,6 +1,6 @@
 #include "forms/Picture.h"
 
-#include "forms/OutOfMemory.h"
+#include "forms/RunTimeError.h"
 
 namespace mirelle {
 namespace {
@@ -28,6 +28,24 @@ Bitmap Bitmap::Unwritten(int width, int height) {
     bitmap.width_ = width;
     bitmap.height_ = height;
     return bitmap;
+}
+
+Bitmap::Bitmap(Bitmap&& other) noexcept
+    : width_(std::exchange(other.width_, 0)), height_(std::exchange(other.height_, 0)),
+      pixels_(std::move(other.pixels_)) {}
+
+Bitmap& Bitmap::operator=(Bitmap&& other) noexcept {
+    width_ = std::exchange(other.width_, 0);
+    height_ = std::exchange(other.height_, 0);
+    pixels_ = std::move(other.pixels_);
+    return *this;
+}
+
+Picture::Picture(Bitmap&& bitmap)
+    : bitmap_(WithinMemory([&] { return std::make_shared<Bitmap>(std::move(bitmap)); })) {}
+
+Bitmap Picture::CopyBitmap() const {
+    return WithinMemory([this] { return Pixels(); });
 }
 
 const Bitmap& Picture::Pixels() const {

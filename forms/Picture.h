@@ -55,6 +55,12 @@ public:
     // Its pixels hold anything until they are written. Raises the same errors.
     static Bitmap Unwritten(int width, int height);
 
+    Bitmap(const Bitmap&) = default;
+    Bitmap& operator=(const Bitmap&) = default;
+    // What is moved from has no size.
+    Bitmap(Bitmap&& other) noexcept;
+    Bitmap& operator=(Bitmap&& other) noexcept;
+
     int Width() const { return width_; }
     int Height() const { return height_; }
     bool IsEmpty() const { return pixels_.empty(); }
@@ -86,15 +92,16 @@ private:
 class Picture {
 public:
     Picture() = default;
-    explicit Picture(Bitmap&& bitmap) : bitmap_(std::make_shared<Bitmap>(std::move(bitmap))) {}
+    // Raises error 7 when the memory for the handle can't be had; the bitmap is the caller's then.
+    explicit Picture(Bitmap&& bitmap);
 
     bool IsEmpty() const { return bitmap_ == nullptr; }
     int Width() const { return bitmap_ ? bitmap_->Width() : 0; }
     int Height() const { return bitmap_ ? bitmap_->Height() : 0; }
     // The pixels; of the empty picture a bitmap of no size.
     const Bitmap& Pixels() const;
-    // A bitmap of the caller's own to write in.
-    Bitmap CopyBitmap() const { return Pixels(); }
+    // A bitmap of the caller's own to write in. Raises error 7 when the memory for it can't be had.
+    Bitmap CopyBitmap() const;
     bool SharesPixelsWith(const Picture& other) const { return bitmap_ == other.bitmap_; }
 
 private:

@@ -1,8 +1,12 @@
 // Memory for the pixels of bitmaps.
 //
 // Effects make a new picture of the same size again and again. Memory of that size comes fresh from the
-// system, page by page and each cleared first, which takes longer than most effects. So the last large block
-// that was given back is kept for the next bitmap of just its size.
+// system, page by page and each cleared first, which takes longer than most effects. So a large block that
+// was given back is kept for the next bitmap of just its size: one each of the last two sizes, for work that
+// goes to and fro between two pictures.
+//
+// What that may cost is a quarter of a gigabyte, and nothing where memory is short: what is kept goes back to
+// the system before any allocation by operator new fails.
 #pragma once
 
 #include <cstddef>
@@ -15,8 +19,8 @@ namespace mirelle {
 void* TakePixelMemory(std::size_t bytes);
 void GivePixelMemory(void* memory, std::size_t bytes) noexcept;
 
-// The system gets back what is kept.
-void ReleaseSparePixelMemory() noexcept;
+// The system gets back what is kept; whether that was anything.
+bool ReleaseSparePixelMemory() noexcept;
 
 // For a container whose elements hold anything until they are written, unless it is told a value for them.
 template <class Element>

@@ -6,6 +6,8 @@
 #pragma once
 
 #include <exception>
+#include <new>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -60,12 +62,26 @@ private:
     std::string source_;
 };
 
-// Runs one statement; a run-time error in it is passed over. Returns whether the statement ran to its end.
-// Anything else that is thrown (the end of the program, say) goes through.
+// Runs work that takes memory and gives its result. Raises error 7 where the memory can't be had, and where
+// more is asked for than there can be.
+template <class Work>
+decltype(auto) WithinMemory(Work&& work) {
+    try {
+        return std::forward<Work>(work)();
+    } catch (const std::bad_alloc&) {
+        throw RunTimeError(ErrorNumber::OutOfMemory);
+    } catch (const std::length_error&) {
+        throw RunTimeError(ErrorNumber::OutOfMemory);
+    }
+}
+
+// Runs one statement; a run-time error in it is passed over, error 7 among them, from wherever the memory was
+// asked for. Returns whether the statement ran to its end. Anything else that is thrown (the end of the
+// program, say) goes through.
 template <class Statement>
 bool ResumeNext(Statement&& statement) {
     try {
-        std::forward<Statement>(statement)();
+        WithinMemory(std::forward<Statement>(statement));
         return true;
     } catch (const RunTimeError&) {
         return false;

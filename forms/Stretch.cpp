@@ -1,7 +1,7 @@
 #include "forms/Stretch.h"
 
 #include "forms/FunctionVersions.h"
-#include "forms/OutOfMemory.h"
+#include "forms/RunTimeError.h"
 
 #include <algorithm>
 #include <array>

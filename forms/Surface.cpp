@@ -1,7 +1,7 @@
 #include "forms/Surface.h"
 
 #include "forms/Numbers.h"
-#include "forms/OutOfMemory.h"
+#include "forms/RunTimeError.h"
 #include "forms/Stretch.h"
 
 #include <algorithm>
@@ -46,20 +46,25 @@ PixelArea WholeOf(const Bitmap& bitmap) {
     return {0, 0, bitmap.Width(), bitmap.Height()};
 }
 
+template <class... Arguments>
+std::shared_ptr<Bitmap> NewBitmap(Arguments&&... arguments) {
+    return WithinMemory([&] { return std::make_shared<Bitmap>(std::forward<Arguments>(arguments)...); });
+}
+
 } // namespace
 
 void Surface::Resize(int width, int height) {
     width = std::max(width, 0);
     height = std::max(height, 0);
     if (width == width_ && height == height_) return;
-    const std::shared_ptr<Bitmap> before = std::move(image_);
-    image_ = nullptr;
+    std::shared_ptr<Bitmap> resized;
+    if (image_ && painted_) {
+        resized = NewBitmap(width, height, PixelOf(background_));
+        CopyRect(*image_, WholeOf(*image_), *resized, 0, 0);
+    }
+    image_ = std::move(resized);
     width_ = width;
     height_ = height;
-    if (!before || !painted_) return;
-    auto resized = std::make_shared<Bitmap>(width, height, PixelOf(background_));
-    CopyRect(*before, WholeOf(*before), *resized, 0, 0);
-    image_ = std::move(resized);
 }
 
 void Surface::Assign(Picture picture) {
@@ -90,7 +95,7 @@ Bitmap& Surface::Paint() {
     if (!image_) {
         image_ = Compose();
     } else if (image_.use_count() > 1) {
-        image_ = WithinMemory([this] { return std::make_shared<Bitmap>(*image_); });
+        image_ = NewBitmap(*image_);
     }
     painted_ = true;
     return *image_;
@@ -98,7 +103,7 @@ Bitmap& Surface::Paint() {
 
 void Surface::PaintRows(const PaintRow& paint) {
     const bool inPlace = image_ && image_.use_count() == 1;
-    const auto painted = inPlace ? image_ : std::make_shared<Bitmap>(Bitmap::Unwritten(width_, height_));
+    const auto painted = inPlace ? image_ : NewBitmap(Bitmap::Unwritten(width_, height_));
     for (int y = 0; y < height_; ++y) {
         const std::span<Pixel> row = painted->Row(y);
         paint(y, image_ ? std::as_const(*image_).Row(y) : ComposedRow(y, row), row);
@@ -134,7 +139,7 @@ void Surface::Copy(const Bitmap& source, PixelArea from, int left, int top) {
                            Clip(from.height, from.y, source.Height(), top, height_).length == height_;
     const bool hasOwn = image_ && image_.use_count() == 1;
     // Where nothing is left of what was there, it need not be made first.
-    if (paintsAll && !hasOwn) image_ = std::make_shared<Bitmap>(Bitmap::Unwritten(width_, height_));
+    if (paintsAll && !hasOwn) image_ = NewBitmap(Bitmap::Unwritten(width_, height_));
     // The source may be this surface's own image, which whoever asks for the copy holds: so it is not painted
     // in.
     CopyRect(source, from, Paint(), left, top);
@@ -145,7 +150,7 @@ void Surface::Stretch(const Picture& picture) {
 }
 
 std::shared_ptr<Bitmap> Surface::Compose() const {
-    auto composed = std::make_shared<Bitmap>(Bitmap::Unwritten(width_, height_));
+    auto composed = NewBitmap(Bitmap::Unwritten(width_, height_));
     for (int y = 0; y < height_; ++y) {
         const std::span<Pixel> row = composed->Row(y);
         const std::span<const Pixel> shown = ComposedRow(y, row);

@@ -1,5 +1,6 @@
 // The two layers of a picture surface: the assigned Picture, and the persistent Image, which shows the
-// picture from the top-left corner over the background colour plus whatever was painted since.
+// picture from the top-left corner over the background colour plus whatever was painted since. Whatever needs
+// memory raises error 7 where that can't be had, and nothing has changed then.
 //
 // The image's memory is made when it is first needed: a surface that nobody reads or paints costs nothing,
 // and one that shows just a picture of its own size shares that picture's pixels. Painting takes a copy first

@@ -38,7 +38,7 @@ std::int32_t IMFXModule1::EndFX(Picture& destination) {
     ResumeNext([&] { FXEndMs = GetTimeMs(); });
     std::int32_t elapsed = 0;
     ResumeNext([&] { elapsed = Long(FXEndMs) - Long(FXStartMs); });
-    if (!DstPix.IsEmpty()) destination = Picture(std::exchange(DstPix, {}));
+    if (!DstPix.IsEmpty()) destination = Picture(std::move(DstPix));
     return elapsed;
 }
 

@@ -45,7 +45,9 @@ std::span<const AcSymbol> AcSymbolStore::Add(const std::int16_t* values, std::ui
 }
 
 void AcSymbolStore::Join(AcSymbolStore&& other) {
-    // Before the own ones: the last chunk stays the one that is being filled.
+    // Before the own ones: the last chunk stays the one that is being filled, the other's where there is no
+    // own.
+    if (chunks_.empty()) used_ = other.used_;
     chunks_.insert(chunks_.begin(), std::move_iterator(other.chunks_.begin()),
                    std::move_iterator(other.chunks_.end()));
     for (std::size_t symbol = 0; symbol < counts_.size(); ++symbol)

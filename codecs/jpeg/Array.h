@@ -6,8 +6,8 @@
 
 #include <cstddef>
 #include <memory>
-#include <new>
 #include <span>
+#include <utility>
 
 namespace mirelle::jpeg {
 
@@ -16,12 +16,16 @@ class Array {
 public:
     Array() = default;
     // Raises error 7 when the memory can't be had.
-    explicit Array(std::size_t size) : size_(size) {
-        try {
-            elements_ = std::make_unique_for_overwrite<Element[]>(size);
-        } catch (const std::bad_alloc&) {
-            throw RunTimeError(ErrorNumber::OutOfMemory);
-        }
+    explicit Array(std::size_t size)
+        : elements_(WithinMemory([size] { return std::make_unique_for_overwrite<Element[]>(size); })),
+          size_(size) {}
+
+    Array(Array&& other) noexcept
+        : elements_(std::move(other.elements_)), size_(std::exchange(other.size_, 0)) {}
+    Array& operator=(Array&& other) noexcept {
+        elements_ = std::move(other.elements_);
+        size_ = std::exchange(other.size_, 0);
+        return *this;
     }
 
     std::size_t Size() const { return size_; }

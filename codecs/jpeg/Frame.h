@@ -36,7 +36,7 @@ struct Component {
     // The quantised values of all blocks, left to right and then top to bottom: the first of each, and the
     // symbols that the others are coded as, which the store holds.
     Array<std::int16_t> DcValues;
-    Array<std::span<const AcSymbol>> AcSymbols;
+    Array<std::span<const AcSymbol>> BlockSymbols;
     AcSymbolStore AcStore;
 
     std::size_t Blocks() const { return DcValues.Size(); }

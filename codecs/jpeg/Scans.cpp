@@ -16,12 +16,12 @@ using CodesByTable = std::array<ComponentCodes, 2>;
 constexpr std::size_t kShortestSlice = 2048;
 
 // Codes all slices side by side and writes them one behind the other.
-template <class Encode>
-void WriteSlices(OutBuffer& out, const Slices& slices, Encode encode) {
+template <class Code>
+void WriteSlices(OutBuffer& out, const Slices& slices, const Code& code) {
     std::vector<BitString> coded(slices.Number());
     RunShared(slices, [&](std::size_t slice) {
         BitString bits;
-        encode(slices.Begin(slice), slices.End(slice), bits);
+        code(slices.Begin(slice), slices.End(slice), bits);
         coded[slice] = std::move(bits);
     });
     BitWriter writer(out);
@@ -35,9 +35,9 @@ int LastDcOf(const Component& component, std::size_t blocks) {
     return blocks == 0 ? 0 : component.DcValues[blocks - 1];
 }
 
-void Encode(BitString& out, const Component& component, std::size_t block, int& lastDc,
-            const ComponentCodes& codes) {
-    EncodeBlock(out, component.DcValues[block], component.AcSymbols[block], lastDc, codes);
+void EncodeBlockOf(BitString& out, const Component& component, std::size_t block, int& lastDc,
+                   const ComponentCodes& codes) {
+    EncodeBlock(out, component.DcValues[block], component.BlockSymbols[block], lastDc, codes);
 }
 
 void WriteScanSingle(OutBuffer& out, const Component& component, const ComponentCodes& codes) {
@@ -45,7 +45,7 @@ void WriteScanSingle(OutBuffer& out, const Component& component, const Component
     WriteSlices(out, slices, [&](std::size_t first, std::size_t end, BitString& bits) {
         int lastDc = LastDcOf(component, first);
         for (std::size_t block = first; block < end; ++block)
-            Encode(bits, component, block, lastDc, codes);
+            EncodeBlockOf(bits, component, block, lastDc, codes);
     });
 }
 
@@ -68,7 +68,7 @@ void EncodeMcuRow(BitString& bits, const std::vector<InterleavedComponent>& part
                 if (block == kDummyBlock) {
                     EncodeDummyBlock(bits, part.codes);
                 } else {
-                    Encode(bits, part.component, block, lastDc[i], part.codes);
+                    EncodeBlockOf(bits, part.component, block, lastDc[i], part.codes);
                 }
             });
         }

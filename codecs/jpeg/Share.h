@@ -6,20 +6,23 @@
 
 namespace mirelle::jpeg {
 
-// 0..count in slices of about the same length: more of them than there are cores, so that one that is held up
-// holds nobody else up. How they are cut depends on nothing but the two numbers.
+// 0..count in slices of about the same length. How they are cut depends on nothing but the two numbers, so
+// that the result is the same on every machine. Large counts have 64 slices: more than there are cores,
+// mostly, so that one that is held up holds nobody else up.
 class Slices {
 public:
     // No slice is shorter than `shortest`, the least that is worth a thread, unless the count itself is.
     Slices(std::size_t count, std::size_t shortest);
 
     std::size_t Number() const { return number_; }
-    std::size_t Begin(std::size_t slice) const { return slice * (count_ / number_) + Least(slice); }
+    std::size_t Begin(std::size_t slice) const { return slice * (count_ / number_) + LongerBefore(slice); }
     std::size_t End(std::size_t slice) const { return Begin(slice + 1); }
 
 private:
     // The first slices are one longer where the count does not divide.
-    std::size_t Least(std::size_t slice) const { return slice < count_ % number_ ? slice : count_ % number_; }
+    std::size_t LongerBefore(std::size_t slice) const {
+        return slice < count_ % number_ ? slice : count_ % number_;
+    }
 
     std::size_t count_;
     std::size_t number_;

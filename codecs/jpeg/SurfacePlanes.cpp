@@ -79,7 +79,7 @@ void SurfacePlanes::SpreadEdges(const PlaneSize& plane) {
 }
 
 PlaneView SurfacePlanes::ViewOf(const Bitmap& bitmap, int x, int y) const {
-    return {&bitmap.At(0, 0).blue,
+    return {reinterpret_cast<const std::uint8_t*>(bitmap.Pixels().data()),
             sizeof(Pixel),
             static_cast<std::size_t>(bitmap.Width()) * sizeof(Pixel),
             bitmap.Width(),

@@ -61,7 +61,7 @@ void TransformComponent(Component& component, std::size_t index, const QuantTabl
     });
 
     component.DcValues = std::move(dcValues);
-    component.AcSymbols = std::move(acSymbols);
+    component.BlockSymbols = std::move(acSymbols);
     component.AcStore = {};
     for (AcSymbolStore& store : stores)
         component.AcStore.Join(std::move(store));

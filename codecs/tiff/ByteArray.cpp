@@ -1,6 +1,6 @@
 #include "codecs/tiff/ByteArray.h"
 
-#include "forms/OutOfMemory.h"
+#include "forms/RunTimeError.h"
 
 namespace mirelle::tiff {
 

@@ -1,6 +1,6 @@
 #include "codecs/tiff/NoOperations.h"
 
-#include "forms/OutOfMemory.h"
+#include "forms/RunTimeError.h"
 
 #include <algorithm>
 #include <limits>

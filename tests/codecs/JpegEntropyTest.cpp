@@ -24,7 +24,7 @@ using Sparse = std::map<std::size_t, int>;
 Component ComponentOf(const std::vector<Sparse>& blocks) {
     Component component;
     component.DcValues = jpeg::Array<std::int16_t>(blocks.size());
-    component.AcSymbols = jpeg::Array<std::span<const jpeg::AcSymbol>>(blocks.size());
+    component.BlockSymbols = jpeg::Array<std::span<const jpeg::AcSymbol>>(blocks.size());
     for (std::size_t b = 0; b < blocks.size(); ++b) {
         std::array<std::int16_t, 64> values{};
         std::uint64_t nonZero = 0;
@@ -33,7 +33,7 @@ Component ComponentOf(const std::vector<Sparse>& blocks) {
             if (value != 0) nonZero |= std::uint64_t{1} << k;
         }
         component.DcValues[b] = values[0];
-        component.AcSymbols[b] = component.AcStore.Add(values.data(), nonZero);
+        component.BlockSymbols[b] = component.AcStore.Add(values.data(), nonZero);
     }
     return component;
 }
@@ -79,12 +79,29 @@ TEST(JpegSymbols, RunsOfSixteenZerosAreSymbolsOfTheirOwn) {
 TEST(JpegSymbols, CarryTheBitsThatFollowThem) {
     const auto symbols = [](const Sparse& block) {
         const Component component = ComponentOf({block});
-        return std::vector<jpeg::AcSymbol>(component.AcSymbols[0].begin(), component.AcSymbols[0].end());
+        return std::vector<jpeg::AcSymbol>(component.BlockSymbols[0].begin(),
+                                           component.BlockSymbols[0].end());
     };
     // One's complement for negative values.
     EXPECT_EQ(
         symbols({{1, 1}, {2, -1}, {4, 5}, {5, -5}, {38, 32767}, {39, -32767}}),
         (std::vector<jpeg::AcSymbol>{0x101, 0x001, 0x513, 0x203, 0xF0, 0xF0, 0x7FFF0F, 0x00000F, 0x00}));
+}
+
+TEST(JpegSymbols, StayWhereTheyAreWhenAStoreIsJoinedToAnEmptyOneThatIsFilledThen) {
+    const auto block = [](std::int16_t value) {
+        std::array<std::int16_t, 64> values{};
+        values[1] = value;
+        return values;
+    };
+    jpeg::AcSymbolStore all;
+    jpeg::AcSymbolStore other;
+    const auto first = other.Add(block(1).data(), 2);
+    all.Join(std::move(other));
+    const auto second = all.Add(block(100).data(), 2);
+    EXPECT_EQ(first[0], 0x101U);
+    EXPECT_EQ(second[0], 0x6407U);
+    EXPECT_EQ(all.Counts()[jpeg::kEndOfBlock], 2U);
 }
 
 TEST(JpegSymbols, StayWhereTheyAreWhenStoresAreJoined) {
@@ -269,7 +286,7 @@ TEST(JpegBlocks, AreCodedAsDifferenceRunsAndValues) {
     int lastDc = 0;
     const Bytes written = BytesOfBlocks([&](auto& bits) {
         for (std::size_t b = 0; b < 2; ++b) {
-            jpeg::EncodeBlock(bits, component.DcValues[b], component.AcSymbols[b], lastDc, codes);
+            jpeg::EncodeBlock(bits, component.DcValues[b], component.BlockSymbols[b], lastDc, codes);
         }
     });
     // Block 0: 10 11 (3), 01 0 (-1), 100 101 (one zero, 5), 101 01 1 (16 zeros, 1), 00.

@@ -126,7 +126,7 @@ std::vector<std::int16_t> Coefficients(const jpeg::Component& component) {
     for (std::size_t block = 0; block < component.Blocks(); ++block) {
         const auto ofBlock = std::span(values).subspan(64 * block, 64);
         ofBlock[0] = component.DcValues[block];
-        ReadAcValues(component.AcSymbols[block], ofBlock);
+        ReadAcValues(component.BlockSymbols[block], ofBlock);
     }
     return values;
 }

@@ -162,5 +162,14 @@ TEST(Picture, OutlivesTheHolderThatItCameFrom) {
     EXPECT_EQ(kept.Pixels(), Bitmap(2, 2, kInk));
 }
 
+TEST(Bitmap, HasNoSizeOnceItIsMovedAway) {
+    Bitmap from(3, 2, Pixel{1, 2, 3, 4});
+    Bitmap to(std::move(from));
+    EXPECT_EQ(from, Bitmap()); // NOLINT(bugprone-use-after-move)
+    from = std::move(to);
+    EXPECT_EQ(from, Bitmap(3, 2, Pixel{1, 2, 3, 4}));
+    EXPECT_EQ(to, Bitmap()); // NOLINT(bugprone-use-after-move)
+}
+
 } // namespace
 } // namespace mirelle

@@ -1,5 +1,6 @@
-// The large block that is kept for the next bitmap of its size.
+// The large blocks that are kept for the next bitmaps of their sizes.
 #include "forms/PixelMemory.h"
+#include "forms/WatchedMemory.h"
 
 #include <gtest/gtest.h>
 
@@ -10,13 +11,9 @@
 namespace mirelle {
 namespace {
 
-constexpr std::size_t kLarge = 3 << 20;
+constexpr std::size_t kLarge = 6 << 20;
 
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool kKeeps = false;
-#else
-constexpr bool kKeeps = true;
-#endif
+constexpr bool kKeeps = !kMemoryIsWatched;
 
 class PixelMemory : public testing::Test {
 protected:
@@ -45,11 +42,65 @@ TEST_F(PixelMemory, ALargeBlockComesBackForTheSameSize) {
     EXPECT_EQ(TakesMarked(kLarge), kKeeps);
 }
 
-TEST_F(PixelMemory, AnotherSizeLetsItGo) {
+TEST_F(PixelMemory, TwoSizesInTurnsBothComeBack) {
     GiveMarked(kLarge);
-    EXPECT_FALSE(TakesMarked(kLarge + 4));
-    EXPECT_FALSE(TakesMarked(kLarge));
+    GiveMarked(kLarge + 4);
+    for (int turn = 0; turn < 3; ++turn) {
+        GiveMarked(kLarge);
+        EXPECT_EQ(TakesMarked(kLarge + 4), kKeeps) << turn;
+        GiveMarked(kLarge + 4);
+        EXPECT_EQ(TakesMarked(kLarge), kKeeps) << turn;
+    }
 }
+
+TEST_F(PixelMemory, OfThreeSizesTheLastTwoAreKept) {
+    GiveMarked(kLarge);
+    GiveMarked(kLarge + 4);
+    GiveMarked(kLarge + 8);
+    EXPECT_EQ(TakesMarked(kLarge + 4), kKeeps);
+    EXPECT_EQ(TakesMarked(kLarge + 8), kKeeps);
+}
+
+TEST_F(PixelMemory, SmallBlocksLetNoneGo) {
+    GiveMarked(kLarge);
+    for (const std::size_t small : {std::size_t{100}, std::size_t{1} << 20, std::size_t{2} << 20})
+        GivePixelMemory(TakePixelMemory(small), small);
+    EXPECT_EQ(TakesMarked(kLarge), kKeeps);
+}
+
+// What was never touched takes no memory.
+TEST_F(PixelMemory, NoMoreThanAQuarterOfAGigabyteIsKept) {
+    constexpr std::size_t kQuarter = std::size_t{1} << 28;
+    GiveMarked(kQuarter - kLarge);
+    GiveMarked(kLarge);
+    EXPECT_EQ(TakesMarked(kLarge), kKeeps);
+    EXPECT_EQ(TakesMarked(kQuarter - kLarge), kKeeps);
+    ReleaseSparePixelMemory();
+
+    GiveMarked(kQuarter - kLarge);
+    GiveMarked(kLarge + 4);
+    EXPECT_EQ(TakesMarked(kLarge + 4), kKeeps);
+    ReleaseSparePixelMemory();
+
+    GivePixelMemory(TakePixelMemory(kQuarter + 4), kQuarter + 4);
+    EXPECT_FALSE(ReleaseSparePixelMemory());
+}
+
+TEST_F(PixelMemory, IsGivenUpWhereItIsAskedFor) {
+    EXPECT_FALSE(ReleaseSparePixelMemory());
+    GiveMarked(kLarge);
+    EXPECT_EQ(ReleaseSparePixelMemory(), kKeeps);
+    EXPECT_FALSE(ReleaseSparePixelMemory());
+}
+
+#if defined(MIRELLE_TESTS_ARE_WATCHED)
+TEST_F(PixelMemory, IsNeverKeptFromASanitizerThatWatches) {
+    EXPECT_TRUE(kMemoryIsWatched);
+    void* const memory = TakePixelMemory(kLarge);
+    GivePixelMemory(memory, kLarge);
+    EXPECT_DEATH(static_cast<volatile char*>(memory)[0] = 1, "use-after-free");
+}
+#endif
 
 TEST_F(PixelMemory, OneBlockIsKeptTheLastOne) {
     void* first = TakePixelMemory(kLarge);

@@ -1,4 +1,5 @@
 // Memory that runs out, and memory that must not grow.
+#include "forms/WatchedMemory.h"
 #include "tests/desktop/faults/DiskProgram.h"
 #include "tests/desktop/ports/JpegMaker.h"
 #include "tests/support/HeapInUse.h"
@@ -15,12 +16,6 @@
 
 #include <sys/resource.h>
 #include <unistd.h>
-
-#if defined(__SANITIZE_ADDRESS__)
-#define MIRELLE_SANITIZED 1
-#else
-#define MIRELLE_SANITIZED 0
-#endif
 
 namespace mirelle::test {
 namespace {
@@ -95,17 +90,17 @@ void ExpectThatALargePictureIsPassedOver(const char* extension, const FileBytes&
 }
 
 TEST(OutOfMemory, KeepsThePicturesWhenABitmapIsTooLarge) {
-    if (MIRELLE_SANITIZED) GTEST_SKIP() << "the sanitizer itself needs the address space";
+    if (kMemoryIsWatched) GTEST_SKIP() << "the sanitizer itself needs the address space";
     ExpectThatALargePictureIsPassedOver(".bmp", LargeBmp());
 }
 
 TEST(OutOfMemory, KeepsThePicturesWhenAPhotographIsTooLarge) {
-    if (MIRELLE_SANITIZED) GTEST_SKIP() << "the sanitizer itself needs the address space";
+    if (kMemoryIsWatched) GTEST_SKIP() << "the sanitizer itself needs the address space";
     ExpectThatALargePictureIsPassedOver(".jpg", LargeJpeg());
 }
 
 TEST(OutOfMemory, KeepsThePicturesWhenAFileIsTooLarge) {
-    if (MIRELLE_SANITIZED) GTEST_SKIP() << "the sanitizer itself needs the address space";
+    if (kMemoryIsWatched) GTEST_SKIP() << "the sanitizer itself needs the address space";
     DiskProgram program;
     const std::string art = "Support/Materials/Art/";
     program.folder.MakeFile(art + "x1.jpg", MakeJpeg(SmoothBitmap(16, 16)));
@@ -161,7 +156,7 @@ TEST(Memory, DoesNotGrowOverTenThousandPastesCropsAndSaves) {
     }
     EXPECT_EQ(program.form.File5.ListCount(), kNames);
     EXPECT_LT(HeapInUse(), heapAtFirst + (std::size_t{1} << 20));
-    if (MIRELLE_SANITIZED) return;                 // it keeps what is freed for a while
+    if (kMemoryIsWatched) return;                  // it keeps what is freed for a while
     EXPECT_LT(PagesInUse(1), pagesAtFirst + 4096); // 16 megabytes
 }
 
