@@ -21,7 +21,7 @@ void SendSize(FrmPicX& form, RubyConsoleLink& link);
 template <class Body>
 void RunSend(FrmPicX& form, Body&& body) {
     try {
-        std::forward<Body>(body)();
+        WithinMemory(std::forward<Body>(body));
     } catch (const RunTimeError& error) {
         if (error.Number() != ErrorNumber::InvalidProcedureCall) return;
         form.ports.dialogs.MsgBox("Make sure the Ruby Console is visible", MessageButtons::Ok, App::Title);

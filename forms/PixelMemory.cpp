@@ -70,8 +70,11 @@ void ReleaseOrFail() {
 // Lives as long as the program: bitmaps may go away at its very end.
 Spares& TheSpares() {
     static Spares& spares = []() -> Spares& {
-        handlerBefore = std::set_new_handler(ReleaseOrFail);
-        return *new Spares;
+        // There before the handler, which asks for it.
+        auto& made = *new Spares;
+        handlerBefore = std::get_new_handler();
+        std::set_new_handler(ReleaseOrFail);
+        return made;
     }();
     return spares;
 }

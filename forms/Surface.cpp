@@ -146,7 +146,13 @@ void Surface::Copy(const Bitmap& source, PixelArea from, int left, int top) {
 }
 
 void Surface::Stretch(const Picture& picture) {
-    StretchHalftone(picture.Pixels(), WholeOf(picture.Pixels()), Paint(), {0, 0, width_, height_});
+    const bool wasPainted = painted_;
+    try {
+        StretchHalftone(picture.Pixels(), WholeOf(picture.Pixels()), Paint(), {0, 0, width_, height_});
+    } catch (...) {
+        painted_ = wasPainted;
+        throw;
+    }
 }
 
 std::shared_ptr<Bitmap> Surface::Compose() const {

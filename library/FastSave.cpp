@@ -47,7 +47,7 @@ FastSave::FastSave(FrmPicX& form) : form_(form) {
 
 void FastSave::OnSaveClick() {
     try {
-        Save();
+        WithinMemory([this] { Save(); });
     } catch (const RunTimeError& error) {
         form_.ports.dialogs.MsgBox(error.Description() + " " + error.Source(), MessageButtons::Ok,
                                    App::Title);

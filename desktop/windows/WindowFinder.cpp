@@ -36,6 +36,11 @@ BOOL CALLBACK AddIfSeen(HWND window, LPARAM list) {
     return TRUE;
 }
 
+bool IsInFront(HWND window) {
+    const HWND front = GetForegroundWindow();
+    return front == window || (front != nullptr && GetAncestor(front, GA_ROOTOWNER) == window);
+}
+
 // Windows lets only the program that the user works with bring another to the front. Sharing the input state
 // of the thread that is in front makes this one count as it.
 void AskFor(HWND window) {
@@ -55,11 +60,6 @@ HWND FindWindowTitled(std::string_view title) {
     EnumWindows(AddIfSeen, reinterpret_cast<LPARAM>(&open));
     const std::optional<std::size_t> found = FindTitle(open.titles, title);
     return found ? open.windows[*found] : nullptr;
-}
-
-bool IsInFront(HWND window) {
-    const HWND front = GetForegroundWindow();
-    return front == window || (front != nullptr && GetAncestor(front, GA_ROOTOWNER) == window);
 }
 
 bool BringToFront(HWND window) {

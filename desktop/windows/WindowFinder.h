@@ -10,9 +10,6 @@ namespace mirelle::windows {
 // The window that a title asks for among those that are seen, the uppermost first; null where there is none.
 HWND FindWindowTitled(std::string_view title);
 
-// Whether the window, or one that belongs to it, is the one that the user works with.
-bool IsInFront(HWND window);
-
 // Brings the window to the front, opening it up where it is minimised. Returns whether it is there
 // then, for which it is given a few seconds.
 bool BringToFront(HWND window);

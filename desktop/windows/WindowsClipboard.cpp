@@ -126,10 +126,10 @@ void WindowsClipboard::Settle() const {
     if (!cleared_) return;
     const unsigned state = *cleared_;
     cleared_.reset();
-    // What another program put there since then came after the clearing, and stays.
-    if (GetClipboardSequenceNumber() != state) return;
     const OpenedClipboard clipboard(static_cast<HWND>(owner_));
-    if (clipboard.IsOpen()) EmptyClipboard();
+    // What another program put there since then, until it let go of the clipboard, came after the clearing,
+    // and stays.
+    if (clipboard.IsOpen() && GetClipboardSequenceNumber() == state) EmptyClipboard();
 }
 
 void WindowsClipboard::SetData(const Picture& bitmap) {

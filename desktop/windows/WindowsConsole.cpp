@@ -28,12 +28,9 @@ bool LayoutHasAll(const std::vector<KeyStroke>& strokes) {
 // The system's shell object types what it can; the rest is played here.
 class TypingShell : public ShellObject {
 public:
-    TypingShell(std::unique_ptr<windows::ScriptShell> script, HWND refused)
-        : script_(std::move(script)), refused_(refused) {}
+    explicit TypingShell(std::unique_ptr<windows::ScriptShell> script) : script_(std::move(script)) {}
 
     void SendKeys(const std::string& text) override {
-        if (refused_ != nullptr && !windows::IsInFront(refused_))
-            throw RunTimeError(ErrorNumber::PermissionDenied);
         const std::vector<KeyStroke> strokes = InterpretKeystrokes(text);
         if (script_ && LayoutHasAll(strokes)) {
             windows::ReleaseHeldModifiers();
@@ -45,22 +42,19 @@ public:
 
 private:
     std::unique_ptr<windows::ScriptShell> script_; // null where the system's own can't be had
-    HWND refused_;                                 // see WindowsConsole
 };
 
 } // namespace
 
 void WindowsConsole::AppActivate(const std::string& title) {
     const HWND window = windows::FindWindowTitled(title);
-    refused_ = nullptr;
-    if (window != nullptr && windows::BringToFront(window)) return;
-    refused_ = window;
-    throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+    if (window == nullptr || !windows::BringToFront(window))
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall);
 }
 
 std::unique_ptr<ShellObject> WindowsConsole::CreateObject(const std::string& className) {
     if (CompareNoCase(className, "WScript.Shell") != 0) throw RunTimeError(ErrorNumber::CannotCreateObject);
-    return std::make_unique<TypingShell>(windows::ScriptShell::Create(), static_cast<HWND>(refused_));
+    return std::make_unique<TypingShell>(windows::ScriptShell::Create());
 }
 
 } // namespace mirelle

@@ -9,10 +9,6 @@ class WindowsConsole : public ConsoleShell {
 public:
     void AppActivate(const std::string& title) override;
     std::unique_ptr<ShellObject> CreateObject(const std::string& className) override;
-
-private:
-    // The window that was last asked for in vain: it is there, and Windows left another one in front.
-    void* refused_ = nullptr;
 };
 
 } // namespace mirelle

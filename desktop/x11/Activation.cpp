@@ -28,13 +28,12 @@ void AskFor(const Connection& connection, Window window) {
     XSetInputFocus(connection.Server(), window, RevertToParent, CurrentTime);
 }
 
-} // namespace
-
 bool HasFocus(const Connection& connection, Window window) {
-    const ErrorTrap trap(connection);
     const std::vector<Window> chain = WithParents(connection, FocusedWindow(connection));
     return std::ranges::find(chain, window) != chain.end();
 }
+
+} // namespace
 
 bool Activate(const Connection& connection, Window window) {
     const ErrorTrap trap(connection);

@@ -9,7 +9,4 @@ namespace mirelle::x11 {
 // which it is given a few seconds to get.
 bool Activate(const Connection& connection, Window window);
 
-// Whether the window, or one in it, has the focus.
-bool HasFocus(const Connection& connection, Window window);
-
 } // namespace mirelle::x11

@@ -19,8 +19,6 @@ struct X11Console::Desktop {
 
     std::unique_ptr<x11::Connection> connection;
     x11::KeyPlayer player;
-    // The window that was last asked for in vain: it is there, and another one kept the focus.
-    Window refused = None;
 };
 
 namespace {
@@ -38,19 +36,13 @@ bool CanTypeOn(const x11::Connection& connection) {
 template <class Desktop>
 class TypingShell : public ShellObject {
 public:
-    explicit TypingShell(std::shared_ptr<Desktop> desktop)
-        : desktop_(std::move(desktop)), refused_(desktop_->refused) {}
+    explicit TypingShell(std::shared_ptr<Desktop> desktop) : desktop_(std::move(desktop)) {}
     ~TypingShell() override { desktop_->player.GiveBack(); }
 
-    void SendKeys(const std::string& text) override {
-        if (refused_ != None && !x11::HasFocus(*desktop_->connection, refused_))
-            throw RunTimeError(ErrorNumber::PermissionDenied);
-        desktop_->player.Play(InterpretKeystrokes(text));
-    }
+    void SendKeys(const std::string& text) override { desktop_->player.Play(InterpretKeystrokes(text)); }
 
 private:
     std::shared_ptr<Desktop> desktop_;
-    Window refused_; // see Desktop
 };
 
 } // namespace
@@ -66,9 +58,7 @@ X11Console::~X11Console() = default;
 void X11Console::AppActivate(const std::string& title) {
     if (desktop_ != nullptr) {
         const Window window = x11::FindWindow(*desktop_->connection, title);
-        desktop_->refused = None;
         if (window != None && x11::Activate(*desktop_->connection, window)) return;
-        desktop_->refused = window;
     }
     throw RunTimeError(ErrorNumber::InvalidProcedureCall);
 }

@@ -12,7 +12,7 @@ public:
     virtual ~ShellObject() = default;
 
     // Types the text, written in the keystroke language, into the window that has the focus. Returns when all
-    // of it is typed. Raises error 5 where the text is not well formed, and 70 where nothing may be typed.
+    // of it is typed. Raises error 5 where the text is not well formed.
     virtual void SendKeys(const std::string& text) = 0;
 };
 
@@ -21,9 +21,7 @@ public:
     virtual ~ConsoleShell() = default;
 
     // Brings the window of that title to the front and gives it the focus. Raises error 5 where there is
-    // none, and where the system leaves another one in front. In the latter case a shell object that is made
-    // all the same types nothing (error 70) until that window is in front: what is meant for a console that
-    // is there reaches no other window.
+    // none, and where the system leaves another one in front.
     virtual void AppActivate(const std::string& title) = 0;
     // Raises error 429 for a class that is not known.
     virtual std::unique_ptr<ShellObject> CreateObject(const std::string& className) = 0;

@@ -223,6 +223,21 @@ TEST(OutOfMemoryTest, ASurfaceThatCannotBePaintedKeepsWhatItShows) {
     });
 }
 
+TEST(OutOfMemoryTest, ASurfaceThatCannotBeStretchedOnIsNotPainted) {
+    const Picture picture(Bitmap(90, 70, Pixel{9, 9, 9, 9}));
+    for (long allocations = 0;; ++allocations) {
+        Surface surface;
+        surface.Resize(40, 30);
+        const FailureAfter failure(allocations);
+        const std::optional<ErrorNumber> error = ErrorOf([&] { surface.Stretch(picture); });
+        EXPECT_EQ(surface.IsBlank(), error.has_value()) << allocations;
+        if (!failure.Happened()) {
+            EXPECT_GT(allocations, 2) << "after the image's own";
+            return;
+        }
+    }
+}
+
 TEST(OutOfMemoryTest, AnImageThatCannotBeMadeRaisesError7) {
     for (long allocations = 0; allocations < 2; ++allocations) {
         Surface surface;
