@@ -128,21 +128,21 @@ void DirListBox::SetPath(const std::string& path) {
 }
 
 void DirListBox::Refresh() {
-    rows_.clear();
+    rows_.Change().clear();
     current_ = kNoRow;
     TellWatchers();
-    rows_ = FoldersInside();
+    rows_.Change() = FoldersInside();
     TellWatchers();
 }
 
 void DirListBox::FollowDisk() {
     std::vector<std::string> rows;
     ResumeNext([&] { rows = FoldersInside(); });
-    if (rows == rows_) return;
+    if (rows == Rows()) return;
     const std::string current = List(current_);
-    rows_ = std::move(rows);
-    const auto found = std::ranges::find(rows_, current);
-    current_ = found == rows_.end() ? kNoRow : static_cast<int>(found - rows_.begin());
+    rows_.Change() = std::move(rows);
+    const auto found = std::ranges::find(Rows(), current);
+    current_ = found == Rows().end() ? kNoRow : static_cast<int>(found - Rows().begin());
     TellWatchers();
 }
 
@@ -176,7 +176,7 @@ void FileListBox::SetPattern(const std::string& pattern) {
 }
 
 std::string FileListBox::List(int row) const {
-    return row >= 0 && row < ListCount() ? names_[static_cast<std::size_t>(row)] : std::string();
+    return row >= 0 && row < ListCount() ? Rows()[static_cast<std::size_t>(row)] : std::string();
 }
 
 void FileListBox::SetListIndex(int row) {
@@ -194,12 +194,12 @@ void FileListBox::UserClick() {
 
 void FileListBox::ReadNames() {
     current_ = kNoRow;
-    names_.clear();
+    names_.Change().clear();
     // A folder that went away or can't be read lists nothing.
     ResumeNext([this] {
         const std::vector<std::string> patterns = PatternsOf(pattern_);
-        names_ = Sorted(files_.FileNames(path_),
-                        [&](std::string_view small) { return MatchesAny(small, patterns); });
+        names_.Change() = Sorted(files_.FileNames(path_),
+                                 [&](std::string_view small) { return MatchesAny(small, patterns); });
     });
     TellWatchers();
 }

@@ -58,9 +58,10 @@ public:
     const std::string& Pattern() const { return pattern_; }
     void SetPattern(const std::string& pattern);
 
-    int ListCount() const { return static_cast<int>(names_.size()); }
+    int ListCount() const { return static_cast<int>(Rows().size()); }
     std::string List(int row) const;
-    const std::vector<std::string>& Rows() const { return names_; }
+    const std::vector<std::string>& Rows() const { return names_.Read(); }
+    const ListRows& CountedRows() const { return names_; }
     int ListIndex() const { return current_; }
     // Makes a row the current one and runs Click; kNoRow deselects. Error 380 for a row that does not exist.
     void SetListIndex(int row);
@@ -95,7 +96,7 @@ private:
     FileSystem& files_;
     std::string path_;
     std::string pattern_ = "*.jpg";
-    std::vector<std::string> names_;
+    ListRows names_;
     int current_ = kNoRow;
     int clicking_ = kNoRow; // the row whose click is running
 };

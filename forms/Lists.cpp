@@ -8,31 +8,32 @@
 namespace mirelle {
 
 std::string ListControl::List(int row) const {
-    return row >= 0 && row < ListCount() ? rows_[static_cast<std::size_t>(row)] : std::string();
+    return row >= 0 && row < ListCount() ? Rows()[static_cast<std::size_t>(row)] : std::string();
 }
 
 void ListControl::AddItem(std::string text) {
-    rows_.push_back(std::move(text));
+    rows_.Change().push_back(std::move(text));
     TellWatchers();
 }
 
 void ListControl::RemoveItem(int row) {
     if (row < 0 || row >= ListCount()) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
-    rows_.erase(rows_.begin() + row);
+    std::vector<std::string>& rows = rows_.Change();
+    rows.erase(rows.begin() + row);
     if (row == current_) current_ = kNoRow;
     if (row < current_) --current_;
     TellWatchers();
 }
 
 void ListControl::Clear() {
-    rows_.clear();
+    rows_.Change().clear();
     current_ = kNoRow;
     TellWatchers();
 }
 
 void ListControl::SetList(int row, std::string text) {
     if (row < 0 || row >= ListCount()) throw RunTimeError(ErrorNumber::InvalidPropertyArrayIndex);
-    rows_[static_cast<std::size_t>(row)] = std::move(text);
+    rows_.Change()[static_cast<std::size_t>(row)] = std::move(text);
     TellWatchers();
 }
 
@@ -46,8 +47,8 @@ void ListControl::SetListIndex(int row) {
 }
 
 void ListBox::SetText(const std::string& text) {
-    const auto found = std::ranges::find(rows_, text);
-    SetListIndex(found == rows_.end() ? kNoRow : static_cast<int>(found - rows_.begin()));
+    const auto found = std::ranges::find(Rows(), text);
+    SetListIndex(found == Rows().end() ? kNoRow : static_cast<int>(found - Rows().begin()));
 }
 
 void ListBox::UserClick() {

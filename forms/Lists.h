@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/Control.h"
+#include "forms/ListRows.h"
 
 #include <string>
 #include <vector>
@@ -15,9 +16,10 @@ class ListControl : public Control {
 public:
     using Control::Control;
 
-    int ListCount() const { return static_cast<int>(rows_.size()); }
+    int ListCount() const { return static_cast<int>(Rows().size()); }
     std::string List(int row) const;
-    const std::vector<std::string>& Rows() const { return rows_; }
+    const std::vector<std::string>& Rows() const { return rows_.Read(); }
+    const ListRows& CountedRows() const { return rows_; }
 
     virtual void AddItem(std::string text);
     // Error 5 for a row that does not exist.
@@ -35,7 +37,7 @@ protected:
     // What follows from a new current row, ahead of Click.
     virtual void CurrentChanged() {}
 
-    std::vector<std::string> rows_;
+    ListRows rows_;
     int current_ = kNoRow;
 };
 

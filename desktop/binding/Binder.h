@@ -73,6 +73,9 @@ private:
     // Visible, enabled, tool tip, accessible name, and `show` for what is special; mouse events by `take`.
     void Common(Control& control, QWidget& widget, std::function<void()> show, const std::string* caption);
     void Mouse(Control& control, QWidget& widget, ControlEvents::Take take);
+    // Of a list of rows or of files.
+    template <class ListOfRows>
+    void Rows(ListOfRows& control, RowsView& widget);
 
     FrmPicX& form_;
     std::map<const Control*, int> bound_;

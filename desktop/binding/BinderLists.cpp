@@ -62,11 +62,12 @@ void Binder::Combo(ComboBox& control, QComboBox& widget) {
     new ControlEvents(control, *widget.lineEdit(), form_.ports.dialogs, ControlEvents::Take::DblClick);
 }
 
-void Binder::List(ListControl& control, RowsView& widget) {
-    auto* model = new RowsModel(control.Rows(), &widget);
+template <class ListOfRows>
+void Binder::Rows(ListOfRows& control, RowsView& widget) {
+    auto* model = new RowsModel(control.CountedRows(), &widget);
     widget.setModel(model);
     const auto show = [&control, &widget, model] {
-        model->Reload();
+        model->Follow();
         widget.ShowRow(control.ListIndex());
     };
     Common(control, widget, show, nullptr);
@@ -77,19 +78,12 @@ void Binder::List(ListControl& control, RowsView& widget) {
                      [this, &control] { Run([&] { control.UserDblClick(); }); });
 }
 
+void Binder::List(ListControl& control, RowsView& widget) {
+    Rows(control, widget);
+}
+
 void Binder::Files(FileListBox& control, RowsView& widget) {
-    auto* model = new RowsModel(control.Rows(), &widget);
-    widget.setModel(model);
-    const auto show = [&control, &widget, model] {
-        model->Reload();
-        widget.ShowRow(control.ListIndex());
-    };
-    Common(control, widget, show, nullptr);
-    Mouse(control, *widget.viewport(), ControlEvents::Take::Mouse);
-    QObject::connect(&widget, &RowsView::Chosen, &widget,
-                     [this, &control](int row) { Run([&] { control.SetListIndex(row); }); });
-    QObject::connect(&widget, &RowsView::DoubleClicked, &widget,
-                     [this, &control] { Run([&] { control.UserDblClick(); }); });
+    Rows(control, widget);
 }
 
 void Binder::Folders(DirListBox& control, RowsView& widget) {

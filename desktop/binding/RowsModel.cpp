@@ -1,13 +1,24 @@
 #include "desktop/binding/RowsModel.h"
 
+#include "forms/ListRows.h"
+
 namespace mirelle {
+namespace {
 
-RowsModel::RowsModel(const Rows& rows, QObject* parent)
-    : QAbstractListModel(parent), rows_(rows), shown_(static_cast<int>(rows.size())) {}
+int Count(const ListRows& rows) {
+    return static_cast<int>(rows.Read().size());
+}
 
-void RowsModel::Reload() {
+} // namespace
+
+RowsModel::RowsModel(const ListRows& rows, QObject* parent)
+    : QAbstractListModel(parent), rows_(rows), shown_(Count(rows)), changes_(rows.Changes()) {}
+
+void RowsModel::Follow() {
+    if (changes_ == rows_.Changes()) return;
     beginResetModel();
-    shown_ = static_cast<int>(rows_.size());
+    shown_ = Count(rows_);
+    changes_ = rows_.Changes();
     endResetModel();
 }
 
@@ -17,8 +28,8 @@ int RowsModel::rowCount(const QModelIndex& parent) const {
 
 QVariant RowsModel::data(const QModelIndex& index, int role) const {
     const auto row = static_cast<std::size_t>(index.row());
-    if (role != Qt::DisplayRole || row >= rows_.size()) return {};
-    return QString::fromStdString(rows_[row]);
+    if (role != Qt::DisplayRole || row >= rows_.Read().size()) return {};
+    return QString::fromStdString(rows_.Read()[row]);
 }
 
 } // namespace mirelle

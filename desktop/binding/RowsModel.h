@@ -4,31 +4,28 @@
 
 #include <QAbstractListModel>
 
-#include <functional>
-#include <string>
-#include <vector>
-
 namespace mirelle {
+
+class ListRows;
 
 class RowsModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
-    using Rows = std::vector<std::string>;
+    // `rows` live at least as long as the model; they may change between two calls of Follow, and rows that
+    // are gone then read as empty.
+    RowsModel(const ListRows& rows, QObject* parent);
 
-    // `rows` gives the same vector for as long as the model lives; its contents may change between two calls
-    // of Reload, and rows that are gone then read as empty.
-    RowsModel(const Rows& rows, QObject* parent);
-
-    // The rows changed.
-    void Reload();
+    // Brings the views in step with the rows, if these changed.
+    void Follow();
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:
-    const Rows& rows_;
-    int shown_ = 0;
+    const ListRows& rows_;
+    int shown_;
+    unsigned changes_;
 };
 
 } // namespace mirelle

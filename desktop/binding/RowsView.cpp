@@ -39,6 +39,8 @@ void RowsView::resizeEvent(QResizeEvent* event) {
 void RowsView::ShowRow(int row) {
     const QModelIndex index = model() ? model()->index(row, 0) : QModelIndex();
     if (index == currentIndex() && index.isValid()) {
+        // A click with Ctrl takes the selection from the current row.
+        selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
         scrollTo(index);
         return;
     }

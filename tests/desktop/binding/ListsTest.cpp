@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 
 #include <QComboBox>
+#include <QSignalSpy>
 #include <QTest>
 
 namespace mirelle::test {
@@ -30,8 +31,8 @@ struct ListsTest : testing::Test {
         window.show();
     }
 
-    void ClickRow(int row) {
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+    void ClickRow(int row, Qt::KeyboardModifiers held = {}) {
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, held,
                           view->visualRect(view->model()->index(row, 0)).center());
     }
 
@@ -111,6 +112,32 @@ TEST_F(ListsTest, RowsThatAreGoneReadAsEmptyUntilTheListShowsAnew) {
     EXPECT_EQ(view->model()->index(2, 0).data().toString(), "");
     Settle();
     EXPECT_EQ(view->model()->rowCount(), 0);
+}
+
+TEST_F(ListsTest, RowsAreReadAgainWhereTheyChangedAndOnlyThere) {
+    for (const char* row : {"C:\\a.jpg", "C:\\b.jpg"})
+        form.List2.AddItem(row);
+    binder.List(form.List2, *view);
+    const QSignalSpy readings(view->model(), &QAbstractItemModel::modelReset);
+    form.List2.SetListIndex(1);
+    Settle();
+    EXPECT_EQ(readings.count(), 0) << "another row is the current one, and that is all";
+    form.List2.SetList(0, "C:\\c.jpg");
+    Settle();
+    EXPECT_EQ(readings.count(), 1);
+    EXPECT_EQ(view->model()->index(0, 0).data().toString(), "C:\\c.jpg");
+    EXPECT_EQ(view->currentIndex().row(), 1);
+}
+
+TEST_F(ListsTest, AClickWithCtrlLeavesTheCurrentRowSelected) {
+    form.File5.SetPath("C:\\Pictures");
+    binder.Files(form.File5, *view);
+    form.File5.SetListIndex(1);
+    Settle();
+    ClickRow(1, Qt::ControlModifier);
+    Settle();
+    EXPECT_EQ(form.File5.ListIndex(), 1);
+    EXPECT_TRUE(view->selectionModel()->isSelected(view->model()->index(1, 0)));
 }
 
 TEST_F(ListsTest, AListBoxChoosesAndRemovesByDoubleClick) {
