@@ -18,7 +18,8 @@
 //
 // MIRELLE_INLINE makes a helper part of each version; MIRELLE_LAMBDA does so for a lambda, behind its
 // parameters. MIRELLE_INDEPENDENT before a loop says that no pass of it reads memory that another one writes;
-// a local variable may be carried on from pass to pass.
+// a local variable may be carried on from pass to pass. MIRELLE_FETCH_TO_READ and MIRELLE_FETCH_TO_WRITE have
+// the line of an address fetched into the cache meanwhile, for work that takes longer than memory.
 #pragma once
 
 #if defined(__clang__)
@@ -37,6 +38,14 @@
 #define MIRELLE_INLINE inline
 #define MIRELLE_LAMBDA
 #define MIRELLE_INDEPENDENT
+#endif
+
+#if defined(__GNUC__)
+#define MIRELLE_FETCH_TO_READ(address) __builtin_prefetch(address)
+#define MIRELLE_FETCH_TO_WRITE(address) __builtin_prefetch(address, 1)
+#else
+#define MIRELLE_FETCH_TO_READ(address) static_cast<void>(address)
+#define MIRELLE_FETCH_TO_WRITE(address) static_cast<void>(address)
 #endif
 
 namespace mirelle {

@@ -15,28 +15,58 @@ bool DrawsAnything(const Band& band) {
     return !band.to.IsEmpty() && !band.from.IsEmpty() && band.alpha > 0;
 }
 
-// For every place along the gradient's axis the alphas that meet it, in order. A solid one makes those ahead
-// of it needless.
-std::vector<Alphas> AlphasAlong(const std::vector<Band>& bands, int length, bool across) {
-    std::vector<Alphas> alphas(static_cast<std::size_t>(length));
+// Runs work(band, place) for every band and every place along the gradient's axis that it meets.
+template <class Work>
+void EachMeeting(const std::vector<Band>& bands, int length, bool across, const Work& work) {
     for (const Band& band : bands) {
         if (!DrawsAnything(band)) continue;
         const int begin = std::max(across ? band.to.x : band.to.y, 0);
         const int end = std::min(across ? band.to.Right() : band.to.Bottom(), length);
-        for (int place = begin; place < end; ++place) {
-            Alphas& here = alphas[static_cast<std::size_t>(place)];
-            if (band.alpha >= 255) here.clear();
-            here.push_back(static_cast<std::uint8_t>(std::min(band.alpha, 255)));
-        }
+        for (int place = begin; place < end; ++place)
+            work(band, static_cast<std::size_t>(place));
     }
-    return alphas;
 }
+
+// For every place along the gradient's axis the alphas that meet it, in order. A solid one makes those ahead
+// of it needless.
+class AlphasAlong {
+public:
+    AlphasAlong(const std::vector<Band>& bands, int length, bool across) {
+        struct Room {
+            std::size_t begin = 0;
+            std::size_t end = 0;
+        };
+        std::vector<Room> rooms(static_cast<std::size_t>(length));
+        EachMeeting(bands, length, across, [&](const Band&, std::size_t place) { ++rooms[place].end; });
+        std::size_t all = 0;
+        for (Room& room : rooms) {
+            const std::size_t meeting = room.end;
+            room = {all, all};
+            all += meeting;
+        }
+        alphas_.resize(all);
+        EachMeeting(bands, length, across, [&](const Band& band, std::size_t place) {
+            Room& room = rooms[place];
+            if (band.alpha >= 255) room.begin = room.end;
+            alphas_[room.end++] = static_cast<std::uint8_t>(std::min(band.alpha, 255));
+        });
+        chains_.reserve(rooms.size());
+        for (const Room& room : rooms)
+            chains_.push_back(Alphas(alphas_).subspan(room.begin, room.end - room.begin));
+    }
+
+    std::span<const Alphas> Chains() const { return chains_; }
+
+private:
+    std::vector<std::uint8_t> alphas_;
+    std::vector<Alphas> chains_;
+};
 
 std::vector<std::optional<std::uint8_t>> LimitsOf(std::span<const Alphas> chains) {
     std::vector<std::optional<std::uint8_t>> limits;
     limits.reserve(chains.size());
     for (std::size_t place = 0; place < chains.size(); ++place) {
-        const bool asBefore = place > 0 && chains[place] == chains[place - 1];
+        const bool asBefore = place > 0 && std::ranges::equal(chains[place], chains[place - 1]);
         limits.push_back(asBefore ? limits.back() : LimitOf(chains[place]));
     }
     return limits;
@@ -115,10 +145,10 @@ std::optional<BandRows> BandRows::Of(const std::vector<Band>& bands, int width, 
     if (!all(IsStraight)) return std::nullopt;
     BandRows rows(source, width, height);
     if (all([&](const Band& band) { return band.to.y <= 0 && band.to.Bottom() >= height; })) {
-        rows.across_ = PlanColumns(AlphasAlong(bands, width, true));
+        rows.across_ = PlanColumns(AlphasAlong(bands, width, true).Chains());
     } else if (all([&](const Band& band) { return band.to.x <= 0 && band.to.Right() >= width; })) {
-        rows.down_ =
-            PlanRows(AlphasAlong(bands, height, false), static_cast<std::size_t>(width) * kPixelBytes);
+        rows.down_ = PlanRows(AlphasAlong(bands, height, false).Chains(),
+                              static_cast<std::size_t>(width) * kPixelBytes);
     } else {
         return std::nullopt;
     }

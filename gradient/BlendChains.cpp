@@ -69,13 +69,27 @@ MIRELLE_INLINE void BlendBlock(std::uint8_t* to, const std::uint8_t* was, const 
         to[i] = Moved(was[i], from[i], static_cast<std::uint8_t>(distances[i]));
 }
 
+// The bytes so far ahead come from memory while a block goes through its chains.
+constexpr std::size_t kAhead = 4 * kBlock;
+constexpr std::size_t kCacheLine = 64;
+
+MIRELLE_INLINE void FetchBlock(const BlendRun& run, std::size_t at) {
+    for (std::size_t line = at; line < at + kBlock; line += kCacheLine) {
+        MIRELLE_FETCH_TO_READ(run.was + line);
+        MIRELLE_FETCH_TO_READ(run.from + line);
+        MIRELLE_FETCH_TO_WRITE(run.to + line);
+    }
+}
+
 // Runs work(to, was, from, at) over all blocks of a run, `at` the first of the run's bytes; what does not
 // fill the last one is done in a copy.
 template <class Work>
 MIRELLE_INLINE void EachBlock(const BlendRun& run, const Work& work) {
     std::size_t at = 0;
-    for (; at + kBlock <= run.bytes; at += kBlock)
+    for (; at + kBlock <= run.bytes; at += kBlock) {
+        FetchBlock(run, std::min(at + kAhead, run.bytes - kBlock));
         work(run.to + at, run.was + at, run.from + at, at);
+    }
     if (at == run.bytes) return;
     Bytes last{};
     Bytes lastFrom{};
@@ -91,21 +105,54 @@ std::size_t WholeBlocks(std::size_t bytes) {
 
 std::size_t LongestOf(std::span<const Alphas> chains) {
     std::size_t links = 0;
-    for (const Alphas& alphas : chains)
+    for (const Alphas alphas : chains)
         links = std::max(links, alphas.size());
     return links;
 }
 
+// The chain without the alphas that it begins with, which are all of `first` that change anything. Nothing
+// for a chain that begins with others.
+std::optional<Alphas> Behind(Alphas first, Alphas chain) {
+    for (const std::uint8_t alpha : first) {
+        if (alpha == 0) continue;
+        if (chain.empty() || chain.front() != alpha) return std::nullopt;
+        chain = chain.subspan(1);
+    }
+    return chain;
+}
+
+// One row of alphas in which each chain is what a window of so many links shows, moved by one for each chain:
+// so it is where bands of one width follow each other. Nothing for other chains.
+std::optional<std::vector<std::uint8_t>> RowShowing(std::span<const Alphas> chains, std::size_t links) {
+    if (chains.empty() || links == 0) return std::nullopt;
+    std::vector<std::uint8_t> row(links - chains[0].size(), 0);
+    row.insert(row.end(), chains[0].begin(), chains[0].end());
+    for (const Alphas chain : chains.subspan(1)) {
+        const auto more = Behind(Alphas(row).last(links - 1), chain);
+        if (!more || more->size() > 1) return std::nullopt;
+        row.push_back(more->empty() ? 0 : more->front());
+    }
+    return row;
+}
+
 } // namespace
 
-BlendChains::BlendChains(const Alphas& alphas) : links_(alphas.size()), stride_(1) {
+BlendChains::BlendChains(Alphas alphas) : links_(alphas.size()) {
     for (const std::uint8_t alpha : alphas)
         factors_.push_back(Factors()[alpha]);
 }
 
 BlendChains::BlendChains(std::span<const Alphas> chains, std::size_t bytesOfEach)
-    : links_(LongestOf(chains)), stride_(WholeBlocks(chains.size() * bytesOfEach)),
-      factors_(stride_ * links_) {
+    : links_(LongestOf(chains)), differ_(true) {
+    if (const auto alphas = RowShowing(chains, links_)) {
+        stride_ = bytesOfEach;
+        factors_.resize(WholeBlocks(chains.size() * bytesOfEach) + links_ * bytesOfEach);
+        for (std::size_t place = 0; place < alphas->size(); ++place)
+            std::fill_n(&factors_[place * bytesOfEach], bytesOfEach, Factors()[(*alphas)[place]]);
+        return;
+    }
+    stride_ = WholeBlocks(chains.size() * bytesOfEach);
+    factors_.resize(stride_ * links_);
     for (std::size_t chain = 0; chain < chains.size(); ++chain) {
         for (std::size_t link = 0; link < chains[chain].size(); ++link) {
             std::fill_n(&factors_[link * stride_ + chain * bytesOfEach], bytesOfEach,
@@ -118,7 +165,7 @@ void BlendChains::Blend(const BlendRun& run) const {
     const std::int16_t* factors = factors_.data();
     const std::size_t links = links_;
     const std::size_t stride = stride_;
-    if (stride == 1) {
+    if (!differ_) {
         InBestVersion([=]() MIRELLE_LAMBDA {
             EachBlock(run, [=](auto* to, auto* was, auto* from, std::size_t) MIRELLE_LAMBDA {
                 BlendBlock(to, was, from, links,
@@ -136,16 +183,22 @@ void BlendChains::Blend(const BlendRun& run) const {
     }
 }
 
-std::optional<std::uint8_t> LimitOf(const Alphas& alphas) {
+std::optional<std::uint8_t> LimitOf(Alphas alphas) {
     Bytes distances;
     std::iota(distances.begin(), distances.end(), std::uint8_t{0});
-    const Bytes source{};
-    BlendChains(alphas).Blend({distances.data(), distances.data(), source.data(), kBlock});
-    const std::uint8_t limit = distances.back();
-    for (std::size_t distance = 0; distance < kBlock; ++distance) {
-        if (distances[distance] != std::min<std::size_t>(distance, limit)) return std::nullopt;
-    }
-    return limit;
+    Bytes left;
+    bool limits = false;
+    InBestVersion([=, &distances, &left, &limits, factors = Factors().data()]() MIRELLE_LAMBDA {
+        const Bytes source{};
+        BlendBlock(left.data(), distances.data(), source.data(), alphas.size(),
+                   [=](std::size_t link, std::size_t) MIRELLE_LAMBDA { return factors[alphas[link]]; });
+        const std::uint8_t limit = left.back();
+        int others = 0;
+        for (std::size_t i = 0; i < kBlock; ++i)
+            others |= left[i] ^ std::min(distances[i], limit);
+        limits = others == 0;
+    });
+    return limits ? std::optional(left.back()) : std::nullopt;
 }
 
 void LimitDistances(const BlendRun& run, std::span<const std::uint8_t> limits) {

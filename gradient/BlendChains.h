@@ -15,7 +15,7 @@
 namespace mirelle {
 
 // The alphas of a chain, in the order of the blends.
-using Alphas = std::vector<std::uint8_t>;
+using Alphas = std::span<const std::uint8_t>;
 
 // Bytes that are moved toward others. `to` may be `was`.
 struct BlendRun {
@@ -27,7 +27,7 @@ struct BlendRun {
 
 // What the chain of these alphas leaves of every distance at most, where it leaves the shorter ones as they
 // are. 255 changes nothing, 0 gives the source. Nothing for any other chain.
-std::optional<std::uint8_t> LimitOf(const Alphas& alphas);
+std::optional<std::uint8_t> LimitOf(Alphas alphas);
 
 // Each byte comes as near to the source's as its limit tells: one for each, or a single one for all.
 void LimitDistances(const BlendRun& run, std::span<const std::uint8_t> limits);
@@ -38,7 +38,7 @@ public:
     // No chain, which leaves every byte.
     BlendChains() = default;
     // One chain for all bytes of a run.
-    explicit BlendChains(const Alphas& alphas);
+    explicit BlendChains(Alphas alphas);
     // Each chain for so many bytes of a run side by side, which begins with those of the first chain.
     BlendChains(std::span<const Alphas> chains, std::size_t bytesOfEach);
 
@@ -46,7 +46,8 @@ public:
 
 private:
     std::size_t links_ = 0;  // of the longest chain; what a shorter one lacks leaves its bytes
-    std::size_t stride_ = 1; // from a link's factors to those of the next; 1 where all bytes have the same
+    bool differ_ = false;    // from byte to byte; otherwise each link has one factor
+    std::size_t stride_ = 1; // from the factors of a link to those of the next
     std::vector<std::int16_t> factors_;
 };
 

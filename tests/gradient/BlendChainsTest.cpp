@@ -6,8 +6,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <numeric>
 #include <random>
 #include <span>
+#include <string>
 #include <vector>
 
 namespace mirelle::test {
@@ -35,6 +37,10 @@ struct Pairs {
 // Drawn over itself.
 BlendRun Over(Bytes& drawn, const Bytes& from) {
     return {drawn.data(), drawn.data(), from.data(), drawn.size()};
+}
+
+std::vector<Alphas> PartsOf(const std::vector<Bytes>& chains) {
+    return {chains.begin(), chains.end()};
 }
 
 TEST(BlendChainTest, OneBlendIsABlendForEveryPairAndAlpha) {
@@ -88,11 +94,65 @@ TEST(BlendChainTest, HasAChainForEachPlaceOfARunOfAnyLength) {
                 }
             }
             Bytes drawn = to;
-            BlendChains(chains, bytesOfEach).Blend(Over(drawn, from));
+            BlendChains(PartsOf(chains), bytesOfEach).Blend(Over(drawn, from));
             for (std::size_t i = 0; i < drawn.size(); ++i)
                 ASSERT_EQ(drawn[i], OneByOne(to[i], from[i], chains[i / bytesOfEach])) << places << " " << i;
         }
     }
+}
+
+// Where bands of one width follow each other: those that begin at each place, in rising order, and how far
+// each reaches.
+struct Following {
+    const char* name;
+    std::vector<int> beginning;
+    int width;
+    int lastPlace; // of the chains; the bands may end before it
+};
+
+class FollowingBandsTest : public testing::TestWithParam<Following> {};
+
+TEST_P(FollowingBandsTest, BlendEachPlaceWithTheBandsThatMeetIt) {
+    const auto& [name, beginning, width, lastPlace] = GetParam();
+    std::vector<Bytes> chains(static_cast<std::size_t>(lastPlace) + 1);
+    for (std::size_t band = 0; band < beginning.size(); ++band) {
+        for (int place = beginning[band]; place < std::min(beginning[band] + width, lastPlace + 1); ++place)
+            chains[static_cast<std::size_t>(place)].push_back(static_cast<std::uint8_t>(band % 255 + 1));
+    }
+    std::mt19937 random(7);
+    Bytes to(4 * chains.size()), from(to.size());
+    for (Bytes* bytes : {&to, &from})
+        std::ranges::generate(*bytes, [&] { return static_cast<std::uint8_t>(random()); });
+    Bytes drawn = to;
+    BlendChains(PartsOf(chains), 4).Blend(Over(drawn, from));
+    for (std::size_t i = 0; i < drawn.size(); ++i)
+        ASSERT_EQ(drawn[i], OneByOne(to[i], from[i], chains[i / 4])) << i;
+}
+
+std::vector<int> EveryPlace(int count) {
+    std::vector<int> places(static_cast<std::size_t>(count));
+    std::iota(places.begin(), places.end(), 0);
+    return places;
+}
+
+INSTANTIATE_TEST_SUITE_P(, FollowingBandsTest,
+                         testing::Values(Following{"OneAtEveryPlace", EveryPlace(300), 15, 299},
+                                         Following{"TheLastOnesAlone", EveryPlace(300), 15, 320},
+                                         Following{"EndingAtOnce", EveryPlace(200), 9, 199},
+                                         Following{"NoneAtSome", {0, 1, 2, 4, 5, 9, 10, 11, 12}, 4, 15},
+                                         Following{"TwoAtOne", {0, 1, 3, 3, 4, 5, 6, 6, 8}, 4, 12},
+                                         Following{"LaterThanTheFirstPlace", {3, 4, 5, 6, 7}, 3, 9},
+                                         Following{"OfOnePlace", EveryPlace(70), 1, 70}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST(BlendChainTest, ChainsThatShareSomeAlphasOnlyKeepTheirOwn) {
+    const std::vector<Bytes> chains{{1, 2, 3}, {2, 3, 4}, {3, 5, 6}, {9}, {}, {3, 5}, {0, 7}, {7, 0}};
+    Bytes to(4 * chains.size(), 250);
+    const Bytes from(to.size(), 3);
+    Bytes drawn = to;
+    BlendChains(PartsOf(chains), 4).Blend(Over(drawn, from));
+    for (std::size_t i = 0; i < drawn.size(); ++i)
+        EXPECT_EQ(drawn[i], OneByOne(to[i], from[i], chains[i / 4])) << i;
 }
 
 TEST(LimitOfTest, IsThereExactlyWhereAChainLeavesShorterDistancesAlone) {
