@@ -17,7 +17,9 @@ Registers Allowed() noexcept {
 
 Registers WidestRegisters() noexcept {
 #if defined(__GNUC__) && defined(__x86_64__)
-    if (!__builtin_cpu_supports("avx2")) return Registers::Of16Bytes;
+    const bool has32Bytes =
+        __builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi") && __builtin_cpu_supports("bmi2");
+    if (!has32Bytes) return Registers::Of16Bytes;
     const bool has64Bytes = __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") &&
                             __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512vl");
     return has64Bytes ? Registers::Of64Bytes : Registers::Of32Bytes;

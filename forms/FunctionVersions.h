@@ -2,7 +2,8 @@
 // the processor has, from one source.
 //
 // InBestVersion(work) runs a lambda that is compiled three times, for vector registers of 16, 32 and 64 bytes
-// (every x86-64 processor's, AVX2's and AVX-512's), and takes the widest that there are:
+// (every x86-64 processor's, AVX2's and AVX-512's), and takes the widest that there are. Loops over single bits
+// gain too: the two wider versions have the bit steps of BMI2.
 //
 //     InBestVersion([=]() MIRELLE_LAMBDA {
 //         for (std::size_t i = 0; i < count; ++i)
@@ -75,12 +76,12 @@ void In16Bytes(const Work& given) {
 #if defined(__GNUC__) && defined(__x86_64__)
 
 template <class Work>
-__attribute__((target("avx2"))) void In32Bytes(const Work& given) {
+__attribute__((target("avx2,bmi,bmi2"))) void In32Bytes(const Work& given) {
     const Work work = given;
     work();
 }
 template <class Work>
-__attribute__((target("avx2,avx512f,avx512bw,avx512dq,avx512vl"))) void In64Bytes(const Work& given) {
+__attribute__((target("avx2,bmi,bmi2,avx512f,avx512bw,avx512dq,avx512vl"))) void In64Bytes(const Work& given) {
     const Work work = given;
     work();
 }

@@ -1,6 +1,7 @@
 #include "codecs/jpeg/AcSymbols.h"
 
 #include "codecs/jpeg/Huffman.h"
+#include "forms/FunctionVersions.h"
 
 #include <bit>
 #include <iterator>
@@ -19,7 +20,8 @@ AcSymbol SymbolOf(int run, int value) {
 
 } // namespace
 
-std::span<const AcSymbol> AcSymbolStore::Add(const std::int16_t* values, std::uint64_t nonZero) {
+MIRELLE_INLINE std::span<const AcSymbol> AcSymbolStore::AddBlock(const std::int16_t* values,
+                                                                 std::uint64_t nonZero) {
     if (chunks_.empty() || kChunk - used_ < kMostSymbolsOfBlock) {
         chunks_.emplace_back(kChunk);
         used_ = 0;
@@ -42,6 +44,18 @@ std::span<const AcSymbol> AcSymbolStore::Add(const std::int16_t* values, std::ui
     if (last != 63) add(kEndOfBlock);
     used_ += static_cast<std::size_t>(next - first);
     return {first, next};
+}
+
+std::span<const AcSymbol> AcSymbolStore::Add(const std::int16_t* values, std::uint64_t nonZero) {
+    return AddBlock(values, nonZero);
+}
+
+void AcSymbolStore::AddAll(const std::int16_t* values, std::span<const std::uint64_t> nonZero,
+                           std::span<const AcSymbol>* symbols) {
+    InBestVersion<Registers::Of32Bytes>([=, this]() MIRELLE_LAMBDA {
+        for (std::size_t block = 0; block < nonZero.size(); ++block)
+            symbols[block] = AddBlock(values + 64 * block, nonZero[block]);
+    });
 }
 
 void AcSymbolStore::Join(AcSymbolStore&& other) {

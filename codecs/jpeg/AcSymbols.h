@@ -28,6 +28,9 @@ public:
     // They stay where they are as long as the store, or the one that it is joined to. Where the memory can't
     // be had it raises error 7 or throws std::bad_alloc.
     std::span<const AcSymbol> Add(const std::int16_t* values, std::uint64_t nonZero);
+    // The same for blocks one behind the other: those of the first go to symbols[0].
+    void AddAll(const std::int16_t* values, std::span<const std::uint64_t> nonZero,
+                std::span<const AcSymbol>* symbols);
 
     // Takes over all that the other holds.
     void Join(AcSymbolStore&& other);
@@ -35,6 +38,8 @@ public:
     const SymbolCounts& Counts() const { return counts_; }
 
 private:
+    std::span<const AcSymbol> AddBlock(const std::int16_t* values, std::uint64_t nonZero);
+
     std::vector<Array<AcSymbol>> chunks_;
     std::size_t used_ = 0; // of the last chunk
     SymbolCounts counts_{};

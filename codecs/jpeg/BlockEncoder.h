@@ -4,6 +4,7 @@
 #include "codecs/jpeg/BitString.h"
 #include "codecs/jpeg/Frame.h"
 #include "codecs/jpeg/Huffman.h"
+#include "forms/FunctionVersions.h"
 
 #include <array>
 #include <bit>
@@ -50,8 +51,8 @@ struct ComponentCodes {
 };
 
 // `lastDc` is the DC value of the component's block before and becomes this one's.
-inline void EncodeBlock(BitString& out, int dc, std::span<const AcSymbol> symbols, int& lastDc,
-                        const ComponentCodes& codes) {
+MIRELLE_INLINE void EncodeBlock(BitString& out, int dc, std::span<const AcSymbol> symbols, int& lastDc,
+                                const ComponentCodes& codes) {
     out.Reserve(kMostBitsOfBlock);
     const int difference = dc - lastDc;
     lastDc = dc;

@@ -4,6 +4,7 @@
 #include "codecs/jpeg/BlockEncoder.h"
 #include "codecs/jpeg/Markers.h"
 #include "codecs/jpeg/Share.h"
+#include "forms/FunctionVersions.h"
 
 #include <utility>
 
@@ -35,17 +36,19 @@ int LastDcOf(const Component& component, std::size_t blocks) {
     return blocks == 0 ? 0 : component.DcValues[blocks - 1];
 }
 
-void EncodeBlockOf(BitString& out, const Component& component, std::size_t block, int& lastDc,
-                   const ComponentCodes& codes) {
+MIRELLE_INLINE void EncodeBlockOf(BitString& out, const Component& component, std::size_t block, int& lastDc,
+                                  const ComponentCodes& codes) {
     EncodeBlock(out, component.DcValues[block], component.BlockSymbols[block], lastDc, codes);
 }
 
 void WriteScanSingle(OutBuffer& out, const Component& component, const ComponentCodes& codes) {
     const Slices slices(component.Blocks(), kShortestSlice);
     WriteSlices(out, slices, [&](std::size_t first, std::size_t end, BitString& bits) {
-        int lastDc = LastDcOf(component, first);
-        for (std::size_t block = first; block < end; ++block)
-            EncodeBlockOf(bits, component, block, lastDc, codes);
+        InBestVersion<Registers::Of32Bytes>([&]() MIRELLE_LAMBDA {
+            int lastDc = LastDcOf(component, first);
+            for (std::size_t block = first; block < end; ++block)
+                EncodeBlockOf(bits, component, block, lastDc, codes);
+        });
     });
 }
 
@@ -55,8 +58,8 @@ struct InterleavedComponent {
     InterleavedBlocks blocks;
 };
 
-void EncodeMcuRow(BitString& bits, const std::vector<InterleavedComponent>& parts, std::int32_t row,
-                  std::int32_t across) {
+MIRELLE_INLINE void EncodeMcuRow(BitString& bits, const std::vector<InterleavedComponent>& parts,
+                                 std::int32_t row, std::int32_t across) {
     std::array<int, 3> lastDc{};
     for (std::size_t i = 0; i < parts.size(); ++i) {
         lastDc[i] = LastDcOf(parts[i].component, parts[i].blocks.BlocksAbove(row));
@@ -64,7 +67,7 @@ void EncodeMcuRow(BitString& bits, const std::vector<InterleavedComponent>& part
     for (std::int32_t column = 0; column < across; ++column) {
         for (std::size_t i = 0; i < parts.size(); ++i) {
             const InterleavedComponent& part = parts[i];
-            part.blocks.ForEachInMcu(row, column, [&](std::size_t block) {
+            part.blocks.ForEachInMcu(row, column, [&](std::size_t block) MIRELLE_LAMBDA {
                 if (block == kDummyBlock) {
                     EncodeDummyBlock(bits, part.codes);
                 } else {
@@ -88,9 +91,10 @@ void WriteScanInterleaved(OutBuffer& out, const Frame& frame, const ScanGroup& g
     }
     const Slices slices(rows, kShortestSlice / blocksInRow + 1);
     WriteSlices(out, slices, [&](std::size_t first, std::size_t end, BitString& bits) {
-        for (std::size_t row = first; row < end; ++row) {
-            EncodeMcuRow(bits, parts, static_cast<std::int32_t>(row), mcus.across);
-        }
+        InBestVersion<Registers::Of32Bytes>([&]() MIRELLE_LAMBDA {
+            for (std::size_t row = first; row < end; ++row)
+                EncodeMcuRow(bits, parts, static_cast<std::int32_t>(row), mcus.across);
+        });
     });
 }
 

@@ -50,12 +50,10 @@ void TransformComponent(Component& component, std::size_t index, const QuantTabl
         for (std::size_t down = slices.Begin(slice); down < slices.End(slice); ++down) {
             const BlockRow row = RowOfBlocks(view, index, down, plane.xa, scratch);
             TransformBlocks(row, factors, values.Data(), nonZero.Data());
-            for (std::size_t across = 0; across < blocksAcross; ++across) {
-                const std::int16_t* ofBlock = &values[64 * across];
-                const std::size_t block = down * blocksAcross + across;
-                dcValues[block] = ofBlock[0];
-                acSymbols[block] = store.Add(ofBlock, nonZero[across]);
-            }
+            const std::size_t first = down * blocksAcross;
+            for (std::size_t across = 0; across < blocksAcross; ++across)
+                dcValues[first + across] = values[64 * across];
+            store.AddAll(values.Data(), nonZero, &acSymbols[first]);
         }
         stores[slice] = std::move(store);
     });
