@@ -7,16 +7,6 @@
 namespace mirelle::fast {
 namespace {
 
-void RedAndBlueExchanged(const Pixel* source, Pixel* destination, std::size_t pixels) {
-    InBestVersion([=]() MIRELLE_LAMBDA {
-        EachWord(
-            pixels, destination,
-            [](std::size_t, std::uint32_t s)
-                MIRELLE_LAMBDA { return (s >> 16 & 0xFF) | (s & 0xFF00) | (s & 0xFF) << 16; },
-            source);
-    });
-}
-
 void Masked(const Pixel* source, Pixel* destination, std::size_t pixels, std::uint32_t mask) {
     InBestVersion([=]() MIRELLE_LAMBDA {
         EachWord(
@@ -81,7 +71,7 @@ void FXNegate(const KernelFrame& frame, const KernelArguments&) {
 }
 
 void FXIncoherence(const KernelFrame& frame, const KernelArguments&) {
-    RedAndBlueExchanged(frame.source.data(), frame.destination.data(), frame.source.size());
+    ExchangeChannels(frame.source.data(), frame.destination.data(), frame.source.size(), {2, 1, 0});
 }
 
 void FXNoRed(const KernelFrame& frame, const KernelArguments&) {

@@ -1,8 +1,11 @@
+#include "bridge/ConsoleSend.h"
 #include "bridge/UncalledSends.h"
 #include "tests/bridge/SentTexts.h"
 #include "tests/support/TestProgram.h"
 
 #include <gtest/gtest.h>
+
+#include <new>
 
 namespace mirelle::test {
 namespace {
@@ -129,6 +132,16 @@ TEST_F(SendMaterialTest, ALineThatCannotBeTypedIsToldAsAMissingConsoleAndWhatWas
     form.Command6.UserClick();
     EXPECT_EQ(Sent(), (Texts{activate, shell, preamble}));
     EXPECT_EQ(Messages(), (Texts{"Make sure the Ruby Console is visible"}));
+}
+
+TEST_F(SendMaterialTest, ASendThatRunsOutOfMemoryEndsSilently) {
+    bool ran = false;
+    EXPECT_NO_THROW(RunSend(form, [&] {
+        ran = true;
+        throw std::bad_alloc();
+    }));
+    EXPECT_TRUE(ran);
+    EXPECT_TRUE(Messages().empty());
 }
 
 TEST_F(SendMaterialTest, NamesGoOutAsTheyStand) {

@@ -7,6 +7,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <new>
+
 namespace mirelle::test {
 namespace {
 
@@ -403,6 +405,34 @@ TEST_F(FastSaveOnAStubbornDisk, HiddenFileIsNotSeenByTheSecondTryAndStays) {
     ASSERT_EQ(desktop.dialogs.messages.size(), 1U);
     EXPECT_EQ(desktop.dialogs.messages[0].buttons, MessageButtons::YesNo);
     EXPECT_EQ(caption, "Last Save: Art_13.jpg");
+}
+
+// A disk on which the look for a file that may be there finds no memory.
+class MemorylessFileSystem : public MemoryFileSystem {
+public:
+    bool FileExists(const std::string& path) const override {
+        if (path == kArt + "\\Art_13.jpg") throw std::bad_alloc();
+        return MemoryFileSystem::FileExists(path);
+    }
+};
+
+TEST(FastSaveWithoutMemory, TellsThatThereIsNone) {
+    MemorylessFileSystem files;
+    files.AddFolder(kArt);
+    ScriptedLoader loader;
+    ScriptedEncoders encoders;
+    ScriptedDesktop desktop;
+    Sampler sampler(desktop.PortsOver(files, loader, encoders));
+    sampler.form.Load();
+    sampler.form.Activate();
+    sampler.form.Dir5.SetPath(kArt);
+    sampler.form.picSmall.Picture = ChartPicture(8, 8);
+    sampler.form.textProfileName.Text = "Art_13";
+    sampler.form.Combo5.Text = "*.jpg";
+    sampler.form.Command3.UserClick();
+    ASSERT_EQ(desktop.dialogs.messages.size(), 1U);
+    EXPECT_EQ(desktop.dialogs.messages[0].text, "Out of memory Mirelle");
+    EXPECT_EQ(files.WriteCount(), 0);
 }
 
 // Names of all kinds.
