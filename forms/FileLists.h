@@ -61,6 +61,7 @@ public:
     int ListCount() const { return static_cast<int>(Rows().size()); }
     std::string List(int row) const;
     const std::vector<std::string>& Rows() const { return names_.Read(); }
+    // The same with the count of their changes, for what shows them.
     const ListRows& CountedRows() const { return names_; }
     int ListIndex() const { return current_; }
     // Makes a row the current one and runs Click; kNoRow deselects. Error 380 for a row that does not exist.

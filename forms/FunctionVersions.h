@@ -2,8 +2,8 @@
 // the processor has, from one source.
 //
 // InBestVersion(work) runs a lambda that is compiled three times, for vector registers of 16, 32 and 64 bytes
-// (every x86-64 processor's, AVX2's and AVX-512's), and takes the widest that there are. Loops over single bits
-// gain too: the two wider versions have the bit steps of BMI2.
+// (every x86-64 processor's, AVX2's and AVX-512's), and takes the widest that there are. Loops over single
+// bits gain too: the two wider versions have the bit steps of BMI2.
 //
 //     InBestVersion([=]() MIRELLE_LAMBDA {
 //         for (std::size_t i = 0; i < count; ++i)
@@ -20,7 +20,7 @@
 // MIRELLE_INLINE makes a helper part of each version; MIRELLE_LAMBDA does so for a lambda, behind its
 // parameters. MIRELLE_INDEPENDENT before a loop says that no pass of it reads memory that another one writes;
 // a local variable may be carried on from pass to pass. MIRELLE_FETCH_TO_READ and MIRELLE_FETCH_TO_WRITE have
-// the line of an address fetched into the cache meanwhile, for work that takes longer than memory.
+// the cache line of an address fetched while other work goes on; nothing but the time changes.
 #pragma once
 
 #if defined(__clang__)
@@ -81,7 +81,8 @@ __attribute__((target("avx2,bmi,bmi2"))) void In32Bytes(const Work& given) {
     work();
 }
 template <class Work>
-__attribute__((target("avx2,bmi,bmi2,avx512f,avx512bw,avx512dq,avx512vl"))) void In64Bytes(const Work& given) {
+__attribute__((target("avx2,bmi,bmi2,avx512f,avx512bw,avx512dq,avx512vl"))) void
+In64Bytes(const Work& given) {
     const Work work = given;
     work();
 }

@@ -19,6 +19,7 @@ public:
     int ListCount() const { return static_cast<int>(Rows().size()); }
     std::string List(int row) const;
     const std::vector<std::string>& Rows() const { return rows_.Read(); }
+    // The same with the count of their changes, for what shows them.
     const ListRows& CountedRows() const { return rows_; }
 
     virtual void AddItem(std::string text);

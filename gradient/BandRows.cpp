@@ -55,6 +55,10 @@ public:
             chains_.push_back(Alphas(alphas_).subspan(room.begin, room.end - room.begin));
     }
 
+    AlphasAlong(const AlphasAlong&) = delete;
+    AlphasAlong& operator=(const AlphasAlong&) = delete;
+
+    // They live as long as this does.
     std::span<const Alphas> Chains() const { return chains_; }
 
 private:

@@ -122,10 +122,13 @@ std::optional<Alphas> Behind(Alphas first, Alphas chain) {
 }
 
 // One row of alphas in which each chain is what a window of so many links shows, moved by one for each chain:
-// so it is where bands of one width follow each other. Nothing for other chains.
+// so it is where bands of one width follow each other. A 0 stands where no band begins. Nothing where no such
+// row is found.
 std::optional<std::vector<std::uint8_t>> RowShowing(std::span<const Alphas> chains, std::size_t links) {
     if (chains.empty() || links == 0) return std::nullopt;
-    std::vector<std::uint8_t> row(links - chains[0].size(), 0);
+    std::vector<std::uint8_t> row;
+    row.reserve(links + chains.size() - 1);
+    row.resize(links - chains[0].size());
     row.insert(row.end(), chains[0].begin(), chains[0].end());
     for (const Alphas chain : chains.subspan(1)) {
         const auto more = Behind(Alphas(row).last(links - 1), chain);
@@ -188,6 +191,7 @@ std::optional<std::uint8_t> LimitOf(Alphas alphas) {
     std::iota(distances.begin(), distances.end(), std::uint8_t{0});
     Bytes left;
     bool limits = false;
+    // What it refers to is its own alone.
     InBestVersion([=, &distances, &left, &limits, factors = Factors().data()]() MIRELLE_LAMBDA {
         const Bytes source{};
         BlendBlock(left.data(), distances.data(), source.data(), alphas.size(),

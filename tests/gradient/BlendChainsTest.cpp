@@ -101,6 +101,17 @@ TEST(BlendChainTest, HasAChainForEachPlaceOfARunOfAnyLength) {
     }
 }
 
+void ExpectEachToBlendItsOwn(const std::vector<Bytes>& chains, std::size_t bytesOfEach) {
+    std::mt19937 random(7);
+    Bytes to(bytesOfEach * chains.size()), from(to.size());
+    for (Bytes* bytes : {&to, &from})
+        std::ranges::generate(*bytes, [&] { return static_cast<std::uint8_t>(random()); });
+    Bytes drawn = to;
+    BlendChains(PartsOf(chains), bytesOfEach).Blend(Over(drawn, from));
+    for (std::size_t i = 0; i < drawn.size(); ++i)
+        EXPECT_EQ(drawn[i], OneByOne(to[i], from[i], chains[i / bytesOfEach])) << bytesOfEach << " " << i;
+}
+
 // Where bands of one width follow each other: those that begin at each place, in rising order, and how far
 // each reaches.
 struct Following {
@@ -119,14 +130,8 @@ TEST_P(FollowingBandsTest, BlendEachPlaceWithTheBandsThatMeetIt) {
         for (int place = beginning[band]; place < std::min(beginning[band] + width, lastPlace + 1); ++place)
             chains[static_cast<std::size_t>(place)].push_back(static_cast<std::uint8_t>(band % 255 + 1));
     }
-    std::mt19937 random(7);
-    Bytes to(4 * chains.size()), from(to.size());
-    for (Bytes* bytes : {&to, &from})
-        std::ranges::generate(*bytes, [&] { return static_cast<std::uint8_t>(random()); });
-    Bytes drawn = to;
-    BlendChains(PartsOf(chains), 4).Blend(Over(drawn, from));
-    for (std::size_t i = 0; i < drawn.size(); ++i)
-        ASSERT_EQ(drawn[i], OneByOne(to[i], from[i], chains[i / 4])) << i;
+    for (const std::size_t bytesOfEach : {1U, 4U})
+        ExpectEachToBlendItsOwn(chains, bytesOfEach);
 }
 
 std::vector<int> EveryPlace(int count) {
@@ -145,14 +150,19 @@ INSTANTIATE_TEST_SUITE_P(, FollowingBandsTest,
                                          Following{"OfOnePlace", EveryPlace(70), 1, 70}),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST(BlendChainTest, ChainsThatShareSomeAlphasOnlyKeepTheirOwn) {
-    const std::vector<Bytes> chains{{1, 2, 3}, {2, 3, 4}, {3, 5, 6}, {9}, {}, {3, 5}, {0, 7}, {7, 0}};
-    Bytes to(4 * chains.size(), 250);
-    const Bytes from(to.size(), 3);
-    Bytes drawn = to;
-    BlendChains(PartsOf(chains), 4).Blend(Over(drawn, from));
-    for (std::size_t i = 0; i < drawn.size(); ++i)
-        EXPECT_EQ(drawn[i], OneByOne(to[i], from[i], chains[i / 4])) << i;
+TEST(BlendChainTest, ChainsThatDoNotFollowEachOtherKeepTheirOwnAlphas) {
+    const std::vector<std::vector<Bytes>> lists{{{9}},
+                                                {{5, 6}, {}},
+                                                {{7}, {7}},
+                                                {{}, {7}, {7}, {}},
+                                                {{0, 7}, {7}},
+                                                {{7, 0}, {7}},
+                                                {{1, 2, 3}, {2, 3, 4}, {3, 5, 6}},
+                                                {{1, 2}, {2, 3}, {4}}};
+    for (const std::vector<Bytes>& chains : lists) {
+        for (const std::size_t bytesOfEach : {1U, 4U})
+            ExpectEachToBlendItsOwn(chains, bytesOfEach);
+    }
 }
 
 TEST(LimitOfTest, IsThereExactlyWhereAChainLeavesShorterDistancesAlone) {
