@@ -9,21 +9,61 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
+#include <cstddef>
+#include <vector>
 
 namespace mirelle {
 
 namespace {
 
-// So many rows for each row that is shown make it smooth; more make it slow, where a photograph is shown
-// small.
-constexpr int kRowsForOne = 4;
+// So many pixels each way for each one that is shown make it smooth; more make it slow, where a photograph is
+// shown small.
+constexpr int kPixelsForOne = 4;
 
-// A part of the image's rows, over the same pixels.
-QImage EnoughRows(const QImage& image, int shownHeight) {
-    const int step = std::max(1, image.height() / (kRowsForOne * shownHeight));
+int StepOver(int pixels, int shown) {
+    return std::max(1, pixels / (kPixelsForOne * shown));
+}
+
+// One of so many rows of the image, over the same pixels.
+QImage SomeRows(const QImage& image, int step) {
     return {image.constBits(), image.width(), (image.height() + step - 1) / step, image.bytesPerLine() * step,
             image.format()};
+}
+
+// The means of two pixels' bytes, cut down.
+QRgb MeanOf(QRgb a, QRgb b) {
+    return (a & b) + (((a ^ b) >> 1) & 0x7F7F7F7F);
+}
+
+void JoinPairs(const QRgb* from, QRgb* to, int pairs) {
+    for (int x = 0; x < pairs; ++x)
+        to[x] = MeanOf(from[2 * x], from[2 * x + 1]);
+}
+
+// Columns joined by twos, so many times: what lies between columns must not be lost where a texture repeats.
+QImage ColumnsJoined(const QImage& image, int times) {
+    QImage joined(image.width() >> times, image.height(), image.format());
+    std::vector<QRgb> half(static_cast<std::size_t>(image.width()) / 2);
+    std::vector<QRgb> quarter(half.size() / 2);
+    for (int y = 0; y < joined.height(); ++y) {
+        const auto* from = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (int done = 1; done < times; ++done) {
+            QRgb* const to = done % 2 != 0 ? half.data() : quarter.data();
+            JoinPairs(from, to, image.width() >> done);
+            from = to;
+        }
+        JoinPairs(from, reinterpret_cast<QRgb*>(joined.scanLine(y)), joined.width());
+    }
+    return joined;
+}
+
+QImage EnoughPixels(const QImage& image, QSize shown) {
+    const QImage rows = SomeRows(image, StepOver(image.height(), shown.height()));
+    const auto step = static_cast<unsigned>(StepOver(image.width(), shown.width()));
+    const int times = std::bit_width(step) - 1;
+    return times == 0 ? rows : ColumnsJoined(rows, times);
 }
 
 } // namespace
@@ -86,7 +126,7 @@ void FittedView::paintEvent(QPaintEvent*) {
     if (scaled_.size() != place.size()) {
         const QImage image = ImageOver(shown_.picture);
         scaled_ =
-            QPixmap::fromImage(EnoughRows(image, place.height())
+            QPixmap::fromImage(EnoughPixels(image, place.size())
                                    .scaled(place.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
     QPainter painter(this);

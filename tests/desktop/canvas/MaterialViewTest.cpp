@@ -133,5 +133,39 @@ TEST(FittedView, APictureThatFitsIsShownAsItIs) {
               0);
 }
 
+// Stripes of one pixel, dark and light, blue on the left and red on the right.
+Bitmap FineStripes(int width, int height) {
+    Bitmap stripes(width, height);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            const auto light = static_cast<std::uint8_t>(x % 2 == 0 ? 200 : 100);
+            stripes.At(x, y) = x < width / 2 ? Pixel{light, 0, 0, 0} : Pixel{0, 0, light, 0};
+        }
+    }
+    return stripes;
+}
+
+TEST(FittedView, ALargePictureShownSmallKeepsItsPlacesAndTheMeanOfFineStripes) {
+    TestProgram program;
+    FrmPicX& form = program.form;
+    QWidget window;
+    window.resize(300, 300);
+    FittedView* view = FittedView::Of(form.Picture2, &window);
+    view->setGeometry(0, 0, 100, 50);
+    window.show();
+    for (const int width : {1600, 1603, 2400, 4000}) {
+        form.Picture2.Picture = Picture(FineStripes(width, width / 2));
+        QCoreApplication::processEvents();
+        const QImage painted = Painted(*view);
+        for (const int column : {10, 45})
+            EXPECT_NEAR(PixelAt(painted, painted.width() * column / 100, painted.height() / 2).blue, 150, 8)
+                << width;
+        for (const int column : {55, 90})
+            EXPECT_NEAR(PixelAt(painted, painted.width() * column / 100, painted.height() / 2).red, 150, 8)
+                << width;
+        EXPECT_EQ(PixelAt(painted, painted.width() / 4, 5).red, 0) << width;
+    }
+}
+
 } // namespace
 } // namespace mirelle::test
