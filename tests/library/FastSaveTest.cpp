@@ -363,34 +363,44 @@ TEST_F(FastSaveTest, FolderThatWentIsTold) {
     EXPECT_EQ(Messages()[0].text, "Path not found Mirelle");
 }
 
-// A disk on which files can be neither deleted nor replaced.
-class StubbornFileSystem : public MemoryFileSystem {
-public:
-    void DeleteFile(const std::string&) override { throw RunTimeError(ErrorNumber::PermissionDenied); }
-};
-
-class FastSaveOnAStubbornDisk : public ::testing::Test {
+// A save to Art_13.jpg on a disk of a kind.
+template <class Disk>
+class FastSaveOn : public ::testing::Test {
 protected:
-    void SaveOver(MemoryFileSystem::Attribute attribute) {
-        files.AddFile(kArt + "\\Art_13.jpg", {'o', 'l', 'd'}, attribute);
+    void Save() {
         Sampler sampler(desktop.PortsOver(files, loader, encoders));
         sampler.form.Load();
         sampler.form.Activate();
         sampler.form.Dir5.SetPath(kArt);
         sampler.form.picSmall.Picture = ChartPicture(8, 8);
         sampler.form.textProfileName.Text = "Art_13";
-        desktop.dialogs.messageAnswers.push_back(MessageAnswer::Yes);
+        sampler.form.Combo5.Text = "*.jpg";
         sampler.form.Command3.UserClick();
         caption = sampler.form.Label2(1).Caption;
-        EXPECT_EQ(files.Text(kArt + "\\Art_13.jpg"), "old");
         EXPECT_EQ(files.WriteCount(), 0);
     }
 
-    StubbornFileSystem files;
+    Disk files;
     ScriptedLoader loader;
     ScriptedEncoders encoders;
     ScriptedDesktop desktop;
     std::string caption;
+};
+
+// A disk on which files can be neither deleted nor replaced.
+class StubbornFileSystem : public MemoryFileSystem {
+public:
+    void DeleteFile(const std::string&) override { throw RunTimeError(ErrorNumber::PermissionDenied); }
+};
+
+class FastSaveOnAStubbornDisk : public FastSaveOn<StubbornFileSystem> {
+protected:
+    void SaveOver(MemoryFileSystem::Attribute attribute) {
+        files.AddFile(kArt + "\\Art_13.jpg", {'o', 'l', 'd'}, attribute);
+        desktop.dialogs.messageAnswers.push_back(MessageAnswer::Yes);
+        Save();
+        EXPECT_EQ(files.Text(kArt + "\\Art_13.jpg"), "old");
+    }
 };
 
 TEST_F(FastSaveOnAStubbornDisk, TellsThatTheFileCannotBeDeletedAndKeepsIt) {
@@ -416,23 +426,13 @@ public:
     }
 };
 
-TEST(FastSaveWithoutMemory, TellsThatThereIsNone) {
-    MemorylessFileSystem files;
+class FastSaveWithoutMemory : public FastSaveOn<MemorylessFileSystem> {};
+
+TEST_F(FastSaveWithoutMemory, TellsThatThereIsNone) {
     files.AddFolder(kArt);
-    ScriptedLoader loader;
-    ScriptedEncoders encoders;
-    ScriptedDesktop desktop;
-    Sampler sampler(desktop.PortsOver(files, loader, encoders));
-    sampler.form.Load();
-    sampler.form.Activate();
-    sampler.form.Dir5.SetPath(kArt);
-    sampler.form.picSmall.Picture = ChartPicture(8, 8);
-    sampler.form.textProfileName.Text = "Art_13";
-    sampler.form.Combo5.Text = "*.jpg";
-    sampler.form.Command3.UserClick();
+    Save();
     ASSERT_EQ(desktop.dialogs.messages.size(), 1U);
     EXPECT_EQ(desktop.dialogs.messages[0].text, "Out of memory Mirelle");
-    EXPECT_EQ(files.WriteCount(), 0);
 }
 
 // Names of all kinds.

@@ -98,16 +98,25 @@ std::optional<QPoint> PixelUnder(const FittedView& view, QPointF place) {
         QMouseEvent(QEvent::MouseMove, place, inWindow, inWindow, Qt::NoButton, Qt::NoButton, {}));
 }
 
-TEST(FittedView, KeepsProportionsAndTellsThePicturesOwnPixels) {
+struct FittedViewTest : testing::Test {
+    FittedViewTest() {
+        window.resize(300, 300);
+        window.show();
+    }
+    void Show(const Picture& picture, QSize size) {
+        view->setGeometry(QRect(QPoint(), size));
+        form.Picture2.Picture = picture;
+        QCoreApplication::processEvents();
+    }
+
     TestProgram program;
     FrmPicX& form = program.form;
     QWidget window;
-    window.resize(300, 300);
     FittedView* view = FittedView::Of(form.Picture2, &window);
-    view->setGeometry(0, 0, 100, 100);
-    form.Picture2.Picture = ChartPicture(1000, 500);
-    window.show();
-    QCoreApplication::processEvents();
+};
+
+TEST_F(FittedViewTest, KeepsProportionsAndTellsThePicturesOwnPixels) {
+    Show(ChartPicture(1000, 500), {100, 100});
     const auto middle = PixelUnder(*view, {50, 50});
     ASSERT_TRUE(middle);
     EXPECT_NEAR(middle->x(), 500, 10);
@@ -117,16 +126,8 @@ TEST(FittedView, KeepsProportionsAndTellsThePicturesOwnPixels) {
     EXPECT_TRUE(PixelUnder(*view, {50, 5}));
 }
 
-TEST(FittedView, APictureThatFitsIsShownAsItIs) {
-    TestProgram program;
-    FrmPicX& form = program.form;
-    QWidget window;
-    window.resize(300, 300);
-    FittedView* view = FittedView::Of(form.Picture2, &window);
-    view->setGeometry(0, 0, 200, 200);
-    form.Picture2.Picture = Picture(NoiseBitmap(80, 80, 6));
-    window.show();
-    QCoreApplication::processEvents();
+TEST_F(FittedViewTest, APictureThatFitsIsShownAsItIs) {
+    Show(Picture(NoiseBitmap(80, 80, 6)), {200, 200});
     const QSize room = DeviceSize(*view);
     EXPECT_EQ(Differing(Painted(*view), {(room.width() - 80) / 2, (room.height() - 80) / 2},
                         form.Picture2.Picture().Pixels()),
@@ -145,17 +146,9 @@ Bitmap FineStripes(int width, int height) {
     return stripes;
 }
 
-TEST(FittedView, ALargePictureShownSmallKeepsItsPlacesAndTheMeanOfFineStripes) {
-    TestProgram program;
-    FrmPicX& form = program.form;
-    QWidget window;
-    window.resize(300, 300);
-    FittedView* view = FittedView::Of(form.Picture2, &window);
-    view->setGeometry(0, 0, 100, 50);
-    window.show();
+TEST_F(FittedViewTest, ALargePictureShownSmallKeepsItsPlacesAndTheMeanOfFineStripes) {
     for (const int width : {1600, 1603, 2400, 4000}) {
-        form.Picture2.Picture = Picture(FineStripes(width, width / 2));
-        QCoreApplication::processEvents();
+        Show(Picture(FineStripes(width, width / 2)), {100, 50});
         const QImage painted = Painted(*view);
         for (const int column : {10, 45})
             EXPECT_NEAR(PixelAt(painted, painted.width() * column / 100, painted.height() / 2).blue, 150, 8)
