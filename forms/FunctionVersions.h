@@ -3,7 +3,8 @@
 //
 // InBestVersion(work) runs a lambda that is compiled three times, for vector registers of 16, 32 and 64 bytes
 // (every x86-64 processor's, AVX2's and AVX-512's), and takes the widest that there are. Loops over single
-// bits gain too: the two wider versions have the bit steps of BMI2.
+// bits gain too: the two wider versions have the bit steps of BMI and BMI2, and are for processors that have
+// these.
 //
 //     InBestVersion([=]() MIRELLE_LAMBDA {
 //         for (std::size_t i = 0; i < count; ++i)

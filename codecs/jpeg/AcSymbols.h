@@ -38,7 +38,7 @@ public:
     const SymbolCounts& Counts() const { return counts_; }
 
 private:
-    std::span<const AcSymbol> AddBlock(const std::int16_t* values, std::uint64_t nonZero);
+    inline std::span<const AcSymbol> AddBlock(const std::int16_t* values, std::uint64_t nonZero);
 
     std::vector<Array<AcSymbol>> chunks_;
     std::size_t used_ = 0; // of the last chunk

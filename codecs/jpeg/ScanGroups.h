@@ -2,6 +2,7 @@
 #pragma once
 
 #include "codecs/jpeg/Frame.h"
+#include "forms/FunctionVersions.h"
 
 #include <array>
 #include <cstddef>
@@ -44,7 +45,7 @@ public:
 
     // Calls visit(index of the block, or kDummyBlock) for the blocks of one MCU. Both numbers count from 0.
     template <class Visit>
-    void ForEachInMcu(std::int32_t mcuRow, std::int32_t mcuColumn, Visit&& visit) const {
+    MIRELLE_INLINE void ForEachInMcu(std::int32_t mcuRow, std::int32_t mcuColumn, Visit&& visit) const {
         const bool lastRow = mcuRow == mcus_.down - 1;
         const std::size_t real = mcuColumn == mcus_.across - 1 ? edge_ : h_;
         for (std::size_t r = 0; r < v_; ++r) {

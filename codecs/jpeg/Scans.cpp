@@ -44,7 +44,7 @@ MIRELLE_INLINE void EncodeBlockOf(BitString& out, const Component& component, st
 void WriteScanSingle(OutBuffer& out, const Component& component, const ComponentCodes& codes) {
     const Slices slices(component.Blocks(), kShortestSlice);
     WriteSlices(out, slices, [&](std::size_t first, std::size_t end, BitString& bits) {
-        InBestVersion<Registers::Of32Bytes>([&]() MIRELLE_LAMBDA {
+        InBestVersion<Registers::Of32Bytes>([=, &bits, &component, &codes]() MIRELLE_LAMBDA {
             int lastDc = LastDcOf(component, first);
             for (std::size_t block = first; block < end; ++block)
                 EncodeBlockOf(bits, component, block, lastDc, codes);
@@ -91,7 +91,7 @@ void WriteScanInterleaved(OutBuffer& out, const Frame& frame, const ScanGroup& g
     }
     const Slices slices(rows, kShortestSlice / blocksInRow + 1);
     WriteSlices(out, slices, [&](std::size_t first, std::size_t end, BitString& bits) {
-        InBestVersion<Registers::Of32Bytes>([&]() MIRELLE_LAMBDA {
+        InBestVersion<Registers::Of32Bytes>([=, &bits, &parts, &mcus]() MIRELLE_LAMBDA {
             for (std::size_t row = first; row < end; ++row)
                 EncodeMcuRow(bits, parts, static_cast<std::int32_t>(row), mcus.across);
         });

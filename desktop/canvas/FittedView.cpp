@@ -26,7 +26,8 @@ int StepOver(int pixels, int shown) {
     return std::max(1, pixels / (kPixelsForOne * shown));
 }
 
-// One of so many rows of the image, over the same pixels.
+// One of so many rows of the image, over the same pixels. What lies between them is lost: all rows would have
+// to come from memory.
 QImage SomeRows(const QImage& image, int step) {
     return {image.constBits(), image.width(), (image.height() + step - 1) / step, image.bytesPerLine() * step,
             image.format()};

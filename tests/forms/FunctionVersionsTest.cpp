@@ -22,7 +22,9 @@ std::vector<Registers> RegistersHere() {
 
 TEST(FunctionVersions, AreThereForWhatTheProcessorHas) {
 #if defined(__GNUC__) && defined(__x86_64__)
-    EXPECT_EQ(WidestRegisters() >= Registers::Of32Bytes, __builtin_cpu_supports("avx2") != 0);
+    const bool has32Bytes =
+        __builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi") && __builtin_cpu_supports("bmi2");
+    EXPECT_EQ(WidestRegisters() >= Registers::Of32Bytes, has32Bytes);
 #else
     EXPECT_EQ(WidestRegisters(), Registers::Of16Bytes);
 #endif
