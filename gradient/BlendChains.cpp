@@ -146,7 +146,7 @@ BlendChains::BlendChains(Alphas alphas) : links_(alphas.size()) {
 }
 
 BlendChains::BlendChains(std::span<const Alphas> chains, std::size_t bytesOfEach)
-    : links_(LongestOf(chains)), differ_(true) {
+    : links_(LongestOf(chains)) {
     if (const auto alphas = RowShowing(chains, links_)) {
         stride_ = bytesOfEach;
         factors_.resize(WholeBlocks(chains.size() * bytesOfEach) + links_ * bytesOfEach);
@@ -168,7 +168,7 @@ void BlendChains::Blend(const BlendRun& run) const {
     const std::int16_t* factors = factors_.data();
     const std::size_t links = links_;
     const std::size_t stride = stride_;
-    if (!differ_) {
+    if (stride == 0) {
         InBestVersion([=]() MIRELLE_LAMBDA {
             EachBlock(run, [=](auto* to, auto* was, auto* from, std::size_t) MIRELLE_LAMBDA {
                 BlendBlock(to, was, from, links,

@@ -46,8 +46,7 @@ public:
 
 private:
     std::size_t links_ = 0;  // of the longest chain; what a shorter one lacks leaves its bytes
-    bool differ_ = false;    // from byte to byte; otherwise each link has one factor
-    std::size_t stride_ = 0; // where they differ, from the factors of a link to those of the next
+    std::size_t stride_ = 0; // from the factors of a link to those of the next; 0 where each link has one
     std::vector<std::int16_t> factors_;
 };
 
